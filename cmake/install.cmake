@@ -1,0 +1,13 @@
+# cmake --install: headers, both libraries, a CMake package and a pkg-config file.
+include(CMakePackageConfigHelpers)
+
+install(TARGETS rnxip rnxcore EXPORT rnxipTargets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+install(FILES include/rnxip.h include/rnxcore.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(DIRECTORY include/rnxip DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
+install(EXPORT rnxipTargets NAMESPACE rnxip:: FILE rnxipConfig.cmake
+  DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/rnxip)
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/rnxipConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/rnxipConfigVersion.cmake DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/rnxip)
+
+configure_file(cmake/rnxip.pc.in ${PROJECT_BINARY_DIR}/rnxip.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/rnxip.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

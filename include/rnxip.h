@@ -1,0 +1,11 @@
+/* rnxIP: two-dimensional image-processing primitives. This header brings in the whole interface; C11 and C++.
+   Written by tools/apigen.py. */
+#ifndef RNXIP_H
+#define RNXIP_H
+
+#include "rnxip/types.h"
+
+#include "rnxip/arith.h"
+#include "rnxip/core.h"
+
+#endif
