@@ -8,12 +8,17 @@
 // The vector at the end and the halves overlap elements that are written anyway. That is right even in place, because
 // they are loaded and computed before anything of the row is written. No byte outside the row is touched, and body and
 // tail are the same code.
+//
+// Where source and destination elements differ in size a step is a block of several vectors (simd/block.h): as many
+// elements as fill one vector of the smallest type. The same picture holds, counted in elements.
 #pragma once
 
 #include <algorithm>
 #include <bit>
+#include <utility>
 
 #include "core/image.h"
+#include "simd/block.h"
 #include "simd/vec.h"
 
 namespace rnx::simd {
@@ -90,20 +95,54 @@ RNX_INLINE void storePart(T* p, int n, Vec<T> value) {
   }
 }
 
+// The same of a block: halves of a vector or more are whole vectors, smaller ones lie in the first vector.
+template <class V, class T>
+RNX_INLINE V loadPartOf(const T* p, int n) {
+  if constexpr (std::is_same_v<V, Vec<T>>) {
+    return loadPart(p, n);
+  } else {
+    V block;
+    const int half = halfOf(n);
+    const T* last = p + (n - half);
+    if (half < Vec<T>::kLanes) {
+      const Vec<T> both = loadPart(p, n);
+      for (Vec<T>& v : block.v) v = both;
+    } else {
+      const int vectors = half / Vec<T>::kLanes;
+      for (int k = 0; k < V::kVectors; ++k) {
+        block.v[k] = Vec<T>::load((k / vectors % 2 ? last : p) + k % vectors * Vec<T>::kLanes);
+      }
+    }
+    return block;
+  }
+}
+
+template <class T, int N>
+RNX_INLINE void storePart(T* p, int n, const Block<T, N>& block) {
+  const int half = halfOf(n);
+  if (half < Vec<T>::kLanes) return storePart(p, n, block.v[0]);
+  T* last = p + (n - half);
+  const int vectors = half / Vec<T>::kLanes;
+  for (int k = 0; k < vectors; ++k) {
+    block.v[k].store(p + k * Vec<T>::kLanes);
+    block.v[vectors + k].store(last + k * Vec<T>::kLanes);
+  }
+}
+
 // ---- Sources ----
 
-// The rows of an image.
-template <class T>
+// The rows of an image, read by vectors or by blocks.
+template <class T, class V = Vec<T>>
 struct ImageSource {
   const T* row;
   s64 step;
 
   template <int K>  // which of the three vectors of a round
-  RNX_INLINE Vec<T> body(s64 i) const {
-    return Vec<T>::load(row + i);
+  RNX_INLINE V body(s64 i) const {
+    return V::load(row + i);
   }
-  RNX_INLINE Vec<T> at(s64 i) const { return Vec<T>::load(row + i); }
-  RNX_INLINE Vec<T> part(s64 i, int n) const { return loadPart(row + i, n); }
+  RNX_INLINE V at(s64 i) const { return V::load(row + i); }
+  RNX_INLINE V part(s64 i, int n) const { return loadPartOf<V>(row + i, n); }
   RNX_INLINE void beginBody(s64) {}
   RNX_INLINE void nextRow() { row = core::at(row, step); }
 };
@@ -156,7 +195,10 @@ private:
 template <class T>
 struct AllChannels {
   static constexpr bool kKeepsAlpha = false;
-  static RNX_INLINE Vec<T> merge(Vec<T> result, Vec<T>) { return result; }
+  template <class V>
+  static RNX_INLINE V merge(V result, V) {
+    return result;
+  }
 };
 
 // Four channels of which the fourth keeps what the destination holds.
@@ -169,46 +211,69 @@ struct ColorChannels {
     return mask;
   }
   static RNX_INLINE Vec<T> merge(Vec<T> result, Vec<T> old) { return select(colors(), result, old); }
+  template <int N>
+  static RNX_INLINE Block<T, N> merge(Block<T, N> result, const Block<T, N>& old) {
+    for (int k = 0; k < result.kVectors; ++k) result.v[k] = merge(result.v[k], old.v[k]);
+    return result;
+  }
 };
 
 // ---- Rows ----
 
 // The functor is part of the code once per place that calls it, so there are few: a round of three vectors, one vector,
-// the vector at the end, and a part of a vector.
+// the vector at the end, and a part of a vector. Blocks are long enough to need no rounds.
 template <class T, class Channels, class F, class... Sources>
 struct ElementWise {
-  static constexpr int L = Vec<T>::kLanes;
+  using V = decltype(std::declval<F&>()(std::declval<const Sources&>().at(0)...));  // a vector or a block of T
+  static constexpr int L = V::kLanes;
+  static constexpr bool kRounds =
+      sizeof(V) == kBytes && ((sizeof(std::declval<const Sources&>().at(0)) == kBytes) && ...);
 
   T* dst;
   F& f;
 
   template <int K>
-  RNX_INLINE Vec<T> bodyVector(s64 i, const Sources&... sources) {
+  RNX_INLINE V bodyVector(s64 i, const Sources&... sources) {
     return Channels::merge(f(sources.template body<K>(i)...), old(i));
   }
-  RNX_INLINE Vec<T> vectorAt(s64 i, const Sources&... sources) { return Channels::merge(f(sources.at(i)...), old(i)); }
-  RNX_INLINE Vec<T> old(s64 i) const { return Channels::kKeepsAlpha ? Vec<T>::load(dst + i) : Vec<T>::zero(); }
+  RNX_INLINE V vectorAt(s64 i, const Sources&... sources) { return Channels::merge(f(sources.at(i)...), old(i)); }
+  RNX_INLINE V old(s64 i) const { return Channels::kKeepsAlpha ? V::load(dst + i) : V::zero(); }
 
   // Elements [i, i + n) with n below a vector.
   __attribute__((noinline)) void part(s64 i, int n, const Sources&... sources) {
-    const Vec<T> before = Channels::kKeepsAlpha ? loadPart(dst + i, n) : Vec<T>::zero();
+    const V before = Channels::kKeepsAlpha ? loadPartOf<V>(dst + i, n) : V::zero();
     storePart(dst + i, n, Channels::merge(f(sources.part(i, n)...), before));
   }
 
-  // From element i to behind the last whole vector.
-  RNX_INLINE void body(s64 i, s64 n, bool stream, Sources&... sources) {
+  RNX_INLINE s64 rounds(s64 i, s64 n, bool stream, Sources&... sources) {
     (sources.beginBody(i), ...);
     for (; i + 3 * L <= n; i += 3 * L) {
-      const Vec<T> v0 = bodyVector<0>(i, sources...);
-      const Vec<T> v1 = bodyVector<1>(i + L, sources...);
-      const Vec<T> v2 = bodyVector<2>(i + 2 * L, sources...);
+      const V v0 = bodyVector<0>(i, sources...);
+      const V v1 = bodyVector<1>(i + L, sources...);
+      const V v2 = bodyVector<2>(i + 2 * L, sources...);
       if (stream) {
         v0.stream(dst + i), v1.stream(dst + i + L), v2.stream(dst + i + 2 * L);
       } else {
         v0.store(dst + i), v1.store(dst + i + L), v2.store(dst + i + 2 * L);
       }
     }
-    for (; i + L <= n; i += L) vectorAt(i, sources...).store(dst + i);
+    return i;
+  }
+
+  // From element i to behind the last whole vector.
+  RNX_INLINE void body(s64 i, s64 n, bool stream, Sources&... sources) {
+    if constexpr (kRounds) {
+      i = rounds(i, n, stream, sources...);
+      stream = false;  // what is left is little
+    }
+    for (; i + L <= n; i += L) {
+      const V v = vectorAt(i, sources...);
+      if (stream) {
+        v.stream(dst + i);
+      } else {
+        v.store(dst + i);
+      }
+    }
   }
 
   // Stores around the caches are aligned: elements up to the first boundary go one by one.
@@ -228,7 +293,7 @@ struct ElementWise {
     if (n < L) return part(0, static_cast<int>(n), sources...);
     const s64 last = n - L;
     const bool ragged = n % L != 0 || stream;
-    const Vec<T> tail = ragged ? vectorAt(last, sources...) : Vec<T>::zero();
+    const V tail = ragged ? vectorAt(last, sources...) : V::zero();
     body(stream ? headOfStream(n, sources...) : 0, n, stream, sources...);
     if (ragged) tail.store(dst + last);
   }
