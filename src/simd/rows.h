@@ -13,7 +13,6 @@
 // elements as fill one vector of the smallest type. The same picture holds, counted in elements.
 #pragma once
 
-#include <algorithm>
 #include <bit>
 #include <utility>
 
@@ -151,15 +150,16 @@ struct ImageSource {
 template <class T>
 class PatternSource {
 public:
-  PatternSource(const T* values, int period) : periodic_(period > 1) {
+  RNX_INLINE PatternSource(const T* values, int period) : periodic_(period > 1) {
     if (!periodic_) {
       for (Vec<T>& v : body_) v = Vec<T>::splat(values[0]);
       return;
     }
-    for (int i = 0; i < kPeriod; ++i) buffer_[i] = values[i % period];
-    for (int filled = kPeriod; filled < kLength; filled += filled) {
-      __builtin_memcpy(buffer_ + filled, buffer_, sizeof(T) * static_cast<size_t>(filled));
+    T block[kPeriod];
+    for (int i = 0; i < kPeriod; i += period) {
+      for (int k = 0; k < period; ++k) block[i + k] = values[k];
     }
+    for (int i = 0; i < kLength; i += kPeriod) __builtin_memcpy(buffer_ + i, block, sizeof(block));
     load(0);
   }
 
@@ -177,9 +177,8 @@ public:
 private:
   static constexpr int kPeriod = 12;                 // a multiple of every period
   static constexpr int kRound = 3 * Vec<T>::kLanes;  // elements that three vectors hold
-  // kPeriod times a power of two that reaches a whole round from any phase
-  static constexpr int kLength =
-      kPeriod * static_cast<int>(std::bit_ceil(unsigned(kRound + kPeriod - 1 + kPeriod - 1) / kPeriod));
+  // whole periods that hold a round from any phase
+  static constexpr int kLength = (kRound + 2 * kPeriod - 2) / kPeriod * kPeriod;
 
   void load(int phase) {
     for (int k = 0; k < 3; ++k) body_[k] = Vec<T>::load(buffer_ + phase + k * Vec<T>::kLanes);
@@ -212,7 +211,7 @@ struct ColorChannels {
   }
   static RNX_INLINE Vec<T> merge(Vec<T> result, Vec<T> old) { return select(colors(), result, old); }
   template <int N>
-  static RNX_INLINE Block<T, N> merge(Block<T, N> result, const Block<T, N>& old) {
+  static RNX_INLINE Block<T, N> merge(Block<T, N> result, Block<T, N> old) {
     for (int k = 0; k < result.kVectors; ++k) result.v[k] = merge(result.v[k], old.v[k]);
     return result;
   }
@@ -220,106 +219,117 @@ struct ColorChannels {
 
 // ---- Rows ----
 
-// The functor is part of the code once per place that calls it, so there are few: a round of three vectors, one vector,
-// the vector at the end, and a part of a vector. Blocks are long enough to need no rounds.
-template <class T, class Channels, class F, class... Sources>
-struct ElementWise {
-  using V = decltype(std::declval<F&>()(std::declval<const Sources&>().at(0)...));  // a vector or a block of T
-  static constexpr int L = V::kLanes;
-  static constexpr bool kRounds =
-      sizeof(V) == kBytes && ((sizeof(std::declval<const Sources&>().at(0)) == kBytes) && ...);
+// Sources and functor are passed and kept by value, and nothing may take their address: the compiler would reload them
+// after every store. The functor is part of the code once per place that calls it, so there are few.
 
-  T* dst;
-  F& f;
+// What the functor returns, a vector or a block of the destination's elements, and whether everything is one vector.
+template <class F, class... Sources>
+using ResultOf = decltype(std::declval<F&>()(std::declval<const Sources&>().at(0)...));
+template <class F, class... Sources>
+inline constexpr bool kOneVector = sizeof(ResultOf<F, Sources...>) == kBytes &&
+                                   ((sizeof(std::declval<const Sources&>().at(0)) == kBytes) && ...);
 
-  template <int K>
-  RNX_INLINE V bodyVector(s64 i, const Sources&... sources) {
-    return Channels::merge(f(sources.template body<K>(i)...), old(i));
-  }
-  RNX_INLINE V vectorAt(s64 i, const Sources&... sources) { return Channels::merge(f(sources.at(i)...), old(i)); }
-  RNX_INLINE V old(s64 i) const { return Channels::kKeepsAlpha ? V::load(dst + i) : V::zero(); }
+// Elements [i, i + n) of a row, with n below a vector.
+template <class Channels, class T, class F, class... Sources>
+RNX_INLINE void partOfRow(T* dst, s64 i, int n, F& f, const Sources&... sources) {
+  using V = ResultOf<F, Sources...>;
+  const V old = Channels::kKeepsAlpha ? loadPartOf<V>(dst + i, n) : V::zero();
+  storePart(dst + i, n, Channels::merge(f(sources.part(i, n)...), old));
+}
 
-  // Elements [i, i + n) with n below a vector.
-  __attribute__((noinline)) void part(s64 i, int n, const Sources&... sources) {
-    const V before = Channels::kKeepsAlpha ? loadPartOf<V>(dst + i, n) : V::zero();
-    storePart(dst + i, n, Channels::merge(f(sources.part(i, n)...), before));
-  }
+template <class Channels, class V, class T>
+RNX_INLINE V oldVector(const T* p) {
+  return Channels::kKeepsAlpha ? V::load(p) : V::zero();
+}
 
-  RNX_INLINE s64 rounds(s64 i, s64 n, bool stream, Sources&... sources) {
-    (sources.beginBody(i), ...);
-    for (; i + 3 * L <= n; i += 3 * L) {
-      const V v0 = bodyVector<0>(i, sources...);
-      const V v1 = bodyVector<1>(i + L, sources...);
-      const V v2 = bodyVector<2>(i + 2 * L, sources...);
-      if (stream) {
-        v0.stream(dst + i), v1.stream(dst + i + L), v2.stream(dst + i + 2 * L);
-      } else {
-        v0.store(dst + i), v1.store(dst + i + L), v2.store(dst + i + 2 * L);
+// Elements up to the first address that a store around the caches can take.
+template <class T>
+RNX_INLINE s64 elementsToAlignment(const T* p) {
+  const auto misplaced = reinterpret_cast<uintptr_t>(p) % kBytes;
+  return misplaced == 0 ? 0 : static_cast<s64>((kBytes - misplaced) / sizeof(T));
+}
+
+// Rows of at least a vector.
+template <class Channels, class T, class F, class... Sources>
+RNX_INLINE void longRows(const core::Rows& rows, T* dst, s64 dstStep, F& functor, Sources... sources) {
+  using V = ResultOf<F, Sources...>;
+  constexpr int L = V::kLanes;
+  const auto placement = reinterpret_cast<uintptr_t>(dst) | static_cast<uintptr_t>(dstStep);
+  const s64 n = rows.width, last = n - L;
+  const bool stream =
+      rows.walk == core::Walk::kStream && !Channels::kKeepsAlpha && placement % sizeof(T) == 0 && n >= 4 * L;
+  const bool ragged = n % L != 0 || stream;
+  F f = functor;
+  for (s64 y = 0; y < rows.height; ++y) {
+    // The vector at the end is computed before anything is written, for its sources may be the row itself.
+    V tail = V::zero();
+    if (ragged) tail = Channels::merge(f(sources.at(last)...), oldVector<Channels, V>(dst + last));
+    s64 i = 0;
+    if (stream) {  // a first vector reaches past the boundary where the body begins; the sources are apart from the row
+      f(sources.at(0)...).store(dst);
+      i = elementsToAlignment(dst);
+    }
+    if constexpr (kOneVector<F, Sources...>) {
+      (sources.beginBody(i), ...);
+      for (; i + 3 * L <= n; i += 3 * L) {
+        T* d = dst + i;
+        const V v0 = Channels::merge(f(sources.template body<0>(i)...), oldVector<Channels, V>(d));
+        const V v1 = Channels::merge(f(sources.template body<1>(i + L)...), oldVector<Channels, V>(d + L));
+        const V v2 = Channels::merge(f(sources.template body<2>(i + 2 * L)...), oldVector<Channels, V>(d + 2 * L));
+        if (stream) {
+          v0.stream(d), v1.stream(d + L), v2.stream(d + 2 * L);
+        } else {
+          v0.store(d), v1.store(d + L), v2.store(d + 2 * L);
+        }
       }
     }
-    return i;
-  }
-
-  // From element i to behind the last whole vector.
-  RNX_INLINE void body(s64 i, s64 n, bool stream, Sources&... sources) {
-    if constexpr (kRounds) {
-      i = rounds(i, n, stream, sources...);
-      stream = false;  // what is left is little
-    }
     for (; i + L <= n; i += L) {
-      const V v = vectorAt(i, sources...);
+      const V v = Channels::merge(f(sources.at(i)...), oldVector<Channels, V>(dst + i));
       if (stream) {
         v.stream(dst + i);
       } else {
         v.store(dst + i);
       }
     }
-  }
-
-  // Stores around the caches are aligned: elements up to the first boundary go one by one.
-  s64 headOfStream(s64 n, const Sources&... sources) {
-    const auto misplaced = reinterpret_cast<uintptr_t>(dst) % kBytes;
-    const s64 head = misplaced == 0 ? 0 : static_cast<s64>((kBytes - misplaced) / sizeof(T));
-    inOrder(std::min(head, n), sources...);
-    return head;
-  }
-
-  bool canStream(s64 n) const {
-    return !Channels::kKeepsAlpha && reinterpret_cast<uintptr_t>(dst) % sizeof(T) == 0 && n >= 4 * L;
-  }
-
-  // The vector at the end is computed before anything is written, for its sources may be the row itself.
-  RNX_INLINE void row(s64 n, bool stream, Sources&... sources) {
-    if (n < L) return part(0, static_cast<int>(n), sources...);
-    const s64 last = n - L;
-    const bool ragged = n % L != 0 || stream;
-    const V tail = ragged ? vectorAt(last, sources...) : V::zero();
-    body(stream ? headOfStream(n, sources...) : 0, n, stream, sources...);
     if (ragged) tail.store(dst + last);
-  }
-
-  void inOrder(s64 n, const Sources&... sources) {
-    for (s64 i = 0; i < n; ++i) {
-      if (!Channels::kKeepsAlpha || i % 4 != 3) part(i, 1, sources...);
-    }
-  }
-};
-
-// Calls f with one vector of each source and stores what it returns, over all rows.
-template <class Channels, class T, class F, class... Sources>
-RNX_INLINE void forEachElement(const core::Rows& rows, T* dst, s64 dstStep, F& f, Sources... sources) {
-  ElementWise<T, Channels, F, Sources...> loop{dst, f};
-  const bool stream = rows.walk == core::Walk::kStream;
-  for (s64 y = 0; y < rows.height; ++y) {
-    if (rows.walk == core::Walk::kInOrder) {
-      loop.inOrder(rows.width, sources...);
-    } else {
-      loop.row(rows.width, stream && loop.canStream(rows.width), sources...);
-    }
-    loop.dst = core::at(loop.dst, dstStep);
+    dst = core::at(dst, dstStep);
     (sources.nextRow(), ...);
   }
   if (stream) _mm_sfence();
+  functor = f;
+}
+
+// Rows of less than a vector.
+template <class Channels, class T, class F, class... Sources>
+RNX_INLINE void shortRows(const core::Rows& rows, T* dst, s64 dstStep, F& f, Sources... sources) {
+  for (s64 y = 0; y < rows.height; ++y) {
+    partOfRow<Channels>(dst, 0, static_cast<int>(rows.width), f, sources...);
+    dst = core::at(dst, dstStep);
+    (sources.nextRow(), ...);
+  }
+}
+
+template <class Channels, class T, class F, class... Sources>
+RNX_INLINE void rowsInOrder(const core::Rows& rows, T* dst, s64 dstStep, F& f, Sources... sources) {
+  for (s64 y = 0; y < rows.height; ++y) {
+    for (s64 i = 0; i < rows.width; ++i) {
+      if (!Channels::kKeepsAlpha || i % 4 != 3) partOfRow<Channels>(dst, i, 1, f, sources...);
+    }
+    dst = core::at(dst, dstStep);
+    (sources.nextRow(), ...);
+  }
+}
+
+// Calls f with one vector of each source and stores what it returns, over all rows.
+template <class Channels, class T, class F, class... Sources>
+RNX_INLINE void forEachElement(const core::Rows& rows, T* dst, s64 dstStep, F& f, const Sources&... sources) {
+  if (rows.walk == core::Walk::kInOrder) {
+    rowsInOrder<Channels>(rows, dst, dstStep, f, sources...);
+  } else if (rows.width < ResultOf<F, Sources...>::kLanes) {
+    shortRows<Channels>(rows, dst, dstStep, f, sources...);
+  } else {
+    longRows<Channels>(rows, dst, dstStep, f, sources...);
+  }
 }
 
 }  // namespace
