@@ -3,6 +3,8 @@
 // caller's state, flags included, is what it was when the call returns.
 #pragma once
 
+#include <type_traits>
+
 #include "core/types.h"
 
 namespace rnx::simd {
@@ -35,5 +37,10 @@ private:
 
   u32 callers_;
 };
+
+// What a call on elements of these types needs.
+struct NoFloatState {};
+template <class... T>
+using FloatStateFor = std::conditional_t<(std::is_floating_point_v<T> || ...), FloatState, NoFloatState>;
 
 }  // namespace rnx::simd
