@@ -12,6 +12,7 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/rnxipConfigVersion.cmake 
 install(FILES ${PROJECT_BINARY_DIR}/rnxipConfigVersion.cmake DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/rnxip)
 
 # From the pkg-config file up to the prefix, so that an installed folder may be moved.
-file(RELATIVE_PATH RNXIP_PREFIX_FROM_PC "/prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/prefix")
+file(RELATIVE_PATH RNXIP_PREFIX_FROM_PC "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
+string(REGEX REPLACE "/$" "" RNXIP_PREFIX_FROM_PC "${RNXIP_PREFIX_FROM_PC}")
 configure_file(cmake/rnxip.pc.in ${PROJECT_BINARY_DIR}/rnxip.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/rnxip.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
