@@ -54,6 +54,34 @@ struct BySize {
   }
 };
 
+// One kernel per pixel size; those of 4, 8 and 16 bytes also for pixels of four elements whose fourth keeps its value.
+template <class Kernel>
+struct ByPixel {
+  Kernel of1, of2, of3, of4, of6, of8, of12, of16;
+  Kernel colors4, colors8, colors16;
+
+  constexpr Kernel get(int pixelBytes, bool keepsAlpha) const {
+    switch (pixelBytes) {
+      case 1:
+        return of1;
+      case 2:
+        return of2;
+      case 3:
+        return of3;
+      case 4:
+        return keepsAlpha ? colors4 : of4;
+      case 6:
+        return of6;
+      case 8:
+        return keepsAlpha ? colors8 : of8;
+      case 12:
+        return of12;
+      default:
+        return keepsAlpha ? colors16 : of16;
+    }
+  }
+};
+
 // A constant: a value for C1 and for a channel of interest, otherwise an array with one value per channel that is used.
 template <class T, class L>
 using Constant = std::conditional_t<L::kChannels == 1, T, const T*>;

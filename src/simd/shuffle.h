@@ -71,6 +71,42 @@ RNX_INLINE Vec<u8> indexInto(int chunk, Vec<u8> positions) {
   return Vec<u8>::of(RNX_MM(adds_epu8)(inside, RNX_MM(set1_epi8)(0x70)));  // above 15, or negative: top bit set
 }
 
+// Elements of Bytes bytes from the lower, or the upper, halves of the chunks, in turns.
+template <int Bytes>
+RNX_INLINE Vec<u8> interleaveLow(Vec<u8> a, Vec<u8> b) {
+  if constexpr (Bytes == 1) return Vec<u8>::of(RNX_MM(unpacklo_epi8)(a.bits(), b.bits()));
+  if constexpr (Bytes == 2) return Vec<u8>::of(RNX_MM(unpacklo_epi16)(a.bits(), b.bits()));
+  if constexpr (Bytes == 4) return Vec<u8>::of(RNX_MM(unpacklo_epi32)(a.bits(), b.bits()));
+  return Vec<u8>::of(RNX_MM(unpacklo_epi64)(a.bits(), b.bits()));
+}
+template <int Bytes>
+RNX_INLINE Vec<u8> interleaveHigh(Vec<u8> a, Vec<u8> b) {
+  if constexpr (Bytes == 1) return Vec<u8>::of(RNX_MM(unpackhi_epi8)(a.bits(), b.bits()));
+  if constexpr (Bytes == 2) return Vec<u8>::of(RNX_MM(unpackhi_epi16)(a.bits(), b.bits()));
+  if constexpr (Bytes == 4) return Vec<u8>::of(RNX_MM(unpackhi_epi32)(a.bits(), b.bits()));
+  return Vec<u8>::of(RNX_MM(unpackhi_epi64)(a.bits(), b.bits()));
+}
+
+// Transposes the square of 16 / Bytes elements in as many chunks: every round doubles the runs of neighbours.
+template <int Bytes>
+RNX_INLINE void transposeChunks(Vec<u8>* rows) {
+  constexpr int kRows = kChunk / Bytes;
+  for (int run = 1; run < kRows; run *= 2) {
+    Vec<u8> next[kRows];
+    for (int i = 0; i < kRows / 2; ++i) {
+      next[2 * i] = interleaveLow<Bytes>(rows[i], rows[i + kRows / 2]);
+      next[2 * i + 1] = interleaveHigh<Bytes>(rows[i], rows[i + kRows / 2]);
+    }
+    for (int i = 0; i < kRows; ++i) rows[i] = next[i];
+  }
+}
+
+// The first Count bytes of the chunks of a, the rest of b. Count is even.
+template <int Count>
+RNX_INLINE Vec<u8> firstBytes(Vec<u8> a, Vec<u8> b) {
+  return Vec<u8>::of(RNX_MM(blend_epi16)(a.bits(), b.bits(), 0xff & (0xff << (Count / 2))));
+}
+
 // Walks the groups of a row of n >= group pixels. `f.compute(x, apart)` reads and computes the group at pixel x and the
 // one `apart` pixels further, `f.store(x, apart, result)` writes them. The groups at the end overlap ones that are
 // written anyway; they are computed before anything is written, which makes that right in place too.
