@@ -8,5 +8,6 @@
 #include "rnxip/alpha.h"
 #include "rnxip/arith.h"
 #include "rnxip/core.h"
+#include "rnxip/data.h"
 
 #endif
