@@ -1,4 +1,4 @@
-/* Border extension; Copies; Mirror and transpose; Filling with a constant; Reordering channels.
+/* Border extension; Type conversion; Copies; Mirror and transpose; Filling with a constant; Reordering channels.
    Written by tools/apigen.py from the table of exports in api/: change it there. */
 #ifndef RNXIP_DATA_H
 #define RNXIP_DATA_H
@@ -586,6 +586,194 @@ RnxStatus rnxiCopyWrapBorder_32f_C1IR(Rnx32f* pSrcDst, int srcDstStep, RnxiSize 
     int topBorderHeight, int leftBorderWidth);
 RnxStatus rnxiCopyWrapBorder_32f_C1IR_L(Rnx32f* pSrcDst, Rnx64s srcDstStep, const RnxiSizeL* srcRoiSize,
     const RnxiSizeL* dstRoiSize, Rnx64s topBorderHeight, Rnx64s leftBorderWidth);
+
+
+/* Type conversion
+   ===============
+
+   A value is rounded where it has to be, then saturated to the destination's type. The caller's floating-point control
+   state has no influence on results and is the same after the call.
+
+   AC4 converts three channels and never changes the destination's fourth element. Images may overlap in any way: the
+   result is then that of a loop over the rows from the top and over the elements of a row from the left. */
+
+/* rnxiConvert: Converts an image to another element type.
+
+       R, Rs   dst = saturate(src)                                     integers, and everything to 32f and 64f
+       R       dst = saturate(round(src))                              32f to integers
+       RSfs    dst = saturate(round(src * 2^-scaleFactor))
+
+   To 32f and 64f every value is exact, except that 32-bit integers round to the nearest float, ties to even. Rs forms
+   turn negative values into 0.
+
+   Integer sources with a scale factor give the exact scaled value, rounded once; a factor above the bits of the source
+   gives 0. Of float sources the factor is a power of two in single precision: a factor above 126 multiplies by 0, one
+   below -127 by infinity. 64f is multiplied and rounded in double precision.
+
+   32f and 64f to integers: a value above the destination's range, infinity included, gives the largest value, one below
+   gives the smallest. What is not a number gives the smallest value with rnxRoundZero and rnxRoundNearestEven, and the
+   largest with rnxRoundHalfAway. The IRSfs form reads floats and leaves integers in their place.
+
+   Arguments
+     pSrc, srcStep: source image: first pixel of the ROI and step in bytes
+     pDst, dstStep: destination image and its step
+     roiSize: size of the region of interest in pixels
+     roundMode: 0 rnxRoundZero, 1 rnxRoundNearestEven, every other value as 2 rnxRoundHalfAway
+     scaleFactor: the value is multiplied by 2^-scaleFactor, then rounded by roundMode and saturated; any value
+     pSrcDst, srcDstStep: image that is read and receives the result, and its step
+
+   Checks, in this order
+     rnxStatusNullPointer: a pointer is null (images and constant arrays are tested together)
+     rnxStatusBadSize: ROI width or height below 1
+     rnxStatusBadStep: a step below 1
+
+   Example
+       RnxStatus status = rnxiConvert_8u32f_C3R(bytes, byteStep, floats, floatStep, roi);
+       ...
+       status = rnxiConvert_32f8u_C3R(floats, floatStep, bytes, byteStep, roi, rnxRoundNearestEven); */
+
+RnxStatus rnxiConvert_8u16u_C1R(const Rnx8u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u16u_C3R(const Rnx8u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u16u_C4R(const Rnx8u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u16u_AC4R(const Rnx8u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u16s_C1R(const Rnx8u* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u16s_C3R(const Rnx8u* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u16s_C4R(const Rnx8u* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u16s_AC4R(const Rnx8u* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u32s_C1R(const Rnx8u* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u32s_C3R(const Rnx8u* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u32s_C4R(const Rnx8u* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u32s_AC4R(const Rnx8u* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u32f_C1R(const Rnx8u* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u32f_C3R(const Rnx8u* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u32f_C4R(const Rnx8u* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u32f_AC4R(const Rnx8u* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8s32s_C1R(const Rnx8s* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8s32s_C3R(const Rnx8s* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8s32s_C4R(const Rnx8s* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8s32s_AC4R(const Rnx8s* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8s32f_C1R(const Rnx8s* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8s32f_C3R(const Rnx8s* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8s32f_C4R(const Rnx8s* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8s32f_AC4R(const Rnx8s* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16u8u_C1R(const Rnx16u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16u8u_C3R(const Rnx16u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16u8u_C4R(const Rnx16u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16u8u_AC4R(const Rnx16u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16u32s_C1R(const Rnx16u* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16u32s_C3R(const Rnx16u* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16u32s_C4R(const Rnx16u* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16u32s_AC4R(const Rnx16u* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16u32f_C1R(const Rnx16u* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16u32f_C3R(const Rnx16u* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16u32f_C4R(const Rnx16u* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16u32f_AC4R(const Rnx16u* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16s8u_C1R(const Rnx16s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16s8u_C3R(const Rnx16s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16s8u_C4R(const Rnx16s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16s8u_AC4R(const Rnx16s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16s32s_C1R(const Rnx16s* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16s32s_C3R(const Rnx16s* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16s32s_C4R(const Rnx16s* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16s32s_AC4R(const Rnx16s* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16s32f_C1R(const Rnx16s* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16s32f_C3R(const Rnx16s* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16s32f_C4R(const Rnx16s* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16s32f_AC4R(const Rnx16s* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_32s8u_C1R(const Rnx32s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_32s8u_C3R(const Rnx32s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_32s8u_C4R(const Rnx32s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_32s8u_AC4R(const Rnx32s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_32s8s_C1R(const Rnx32s* pSrc, int srcStep, Rnx8s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_32s8s_C3R(const Rnx32s* pSrc, int srcStep, Rnx8s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_32s8s_C4R(const Rnx32s* pSrc, int srcStep, Rnx8s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_32s8s_AC4R(const Rnx32s* pSrc, int srcStep, Rnx8s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8s16s_C1R(const Rnx8s* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8s64f_C1R(const Rnx8s* pSrc, int srcStep, Rnx64f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16u32u_C1R(const Rnx16u* pSrc, int srcStep, Rnx32u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_32s32f_C1R(const Rnx32s* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_32u32f_C1R(const Rnx32u* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8s8u_C1Rs(const Rnx8s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8s16u_C1Rs(const Rnx8s* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8s32u_C1Rs(const Rnx8s* pSrc, int srcStep, Rnx32u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16s16u_C1Rs(const Rnx16s* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16s32u_C1Rs(const Rnx16s* pSrc, int srcStep, Rnx32u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_32s32u_C1Rs(const Rnx32s* pSrc, int srcStep, Rnx32u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_32f8u_C1R(const Rnx32f* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f8u_C3R(const Rnx32f* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f8u_C4R(const Rnx32f* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f8u_AC4R(const Rnx32f* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f8s_C1R(const Rnx32f* pSrc, int srcStep, Rnx8s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f8s_C3R(const Rnx32f* pSrc, int srcStep, Rnx8s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f8s_C4R(const Rnx32f* pSrc, int srcStep, Rnx8s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f8s_AC4R(const Rnx32f* pSrc, int srcStep, Rnx8s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f16u_C1R(const Rnx32f* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f16u_C3R(const Rnx32f* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f16u_C4R(const Rnx32f* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f16u_AC4R(const Rnx32f* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f16s_C1R(const Rnx32f* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f16s_C3R(const Rnx32f* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f16s_C4R(const Rnx32f* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f16s_AC4R(const Rnx32f* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_8u8s_C1RSfs(const Rnx8u* pSrc, int srcStep, Rnx8s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_16u8s_C1RSfs(const Rnx16u* pSrc, int srcStep, Rnx8s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_16u16s_C1RSfs(const Rnx16u* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_16s8s_C1RSfs(const Rnx16s* pSrc, int srcStep, Rnx8s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_32s16u_C1RSfs(const Rnx32s* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_32s16s_C1RSfs(const Rnx32s* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_32u8u_C1RSfs(const Rnx32u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_32u8s_C1RSfs(const Rnx32u* pSrc, int srcStep, Rnx8s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_32u16u_C1RSfs(const Rnx32u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_32u16s_C1RSfs(const Rnx32u* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_32u32s_C1RSfs(const Rnx32u* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_32f8u_C1RSfs(const Rnx32f* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_32f8s_C1RSfs(const Rnx32f* pSrc, int srcStep, Rnx8s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_32f16u_C1RSfs(const Rnx32f* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_32f16s_C1RSfs(const Rnx32f* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_32f32u_C1RSfs(const Rnx32f* pSrc, int srcStep, Rnx32u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_32f32s_C1RSfs(const Rnx32f* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_64f8u_C1RSfs(const Rnx64f* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_64f8s_C1RSfs(const Rnx64f* pSrc, int srcStep, Rnx8s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_64f16u_C1RSfs(const Rnx64f* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_64f16s_C1RSfs(const Rnx64f* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_32f32u_C1IRSfs(Rnx32u* pSrcDst, int srcDstStep, RnxiSize roiSize, int roundMode, int scaleFactor);
 
 
 /* Copies
