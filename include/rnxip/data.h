@@ -593,8 +593,8 @@ RnxStatus rnxiCopyWrapBorder_32f_C1IR_L(Rnx32f* pSrcDst, Rnx64s srcDstStep, cons
 
    Steps may have any value; a step of 0 reads or writes the same row again. Values are copied bit by bit.
 
-   Images may overlap. The result is then that of a loop over the rows from the top and over the pixels of a row from the
-   left, where a pixel is read before it is written (a form that leaves out channels: the channels that it moves). So one
+   Images may overlap. The result is then that of a loop over the rows from the top and over a row from the left: over its
+   elements in C1R, C3R, C4R and AC4R, over its pixels in the other forms, which read a pixel before they write it. So one
    image may be moved up or to the left inside another by a plain copy, but not down or to the right.
 
    Forms that leave elements of the destination as they are may rewrite them with their own value: two threads may not
@@ -866,7 +866,7 @@ RnxStatus rnxiDup_8u_C1C4R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstS
    With flip 3 and 4 a step below 1 gives rnxStatusBadStep, before the size, and images that have a byte in common give
    rnxStatusUnsupportedMode, last; so does the in-place form. The other axes check no step: one pointer and one step for
    source and destination mean in place, otherwise overlapping images give the result of a loop over the source's rows
-   from the top and over the pixels of a row from the left.
+   from the top and over a row from the left: over its elements with flip 0, over its pixels with flip 1 and 2.
 
    Upside down, an image of 2097153 bytes or more is written around the caches where it does not fit them.
 
