@@ -1,4 +1,4 @@
-/* Border extension; Copies; Mirror and transpose; Filling with a constant; Reordering channels.
+/* Gray and one-bit images; Border extension; Copies; Mirror and transpose; Filling with a constant; Reordering channels.
    Written by tools/apigen.py from the table of exports in api/: change it there. */
 #ifndef RNXIP_DATA_H
 #define RNXIP_DATA_H
@@ -8,6 +8,74 @@
 #ifdef __cplusplus
 extern "C" {
 #endif
+
+/* Gray and one-bit images
+   =======================
+
+   A one-bit image is rows of packed bits, filled from the least significant bit of a byte upward. A row may start in the
+   middle of a byte: with b the bit offset modulo 8, pixel x is bit (b + x) mod 8 of byte (b + x) div 8 of the row. Only
+   the offset modulo 8 counts; for a larger one move the pointer.
+
+   Source and destination may not overlap. */
+
+/* rnxiGrayToBin: Turns a gray image into a one-bit image by a threshold.
+
+       bit = src > threshold
+
+   A source that is not a number gives 0. Bits of the destination outside the ROI keep their values.
+
+   Arguments
+     pSrc, srcStep: source image: first pixel of the ROI and step in bytes
+     pDst, dstStep, dstBitOffset: one-bit destination image, its step in bytes, and the bit at which the rows start
+     roiSize: size of the region of interest in pixels
+     threshold: values above it give 1
+
+   Checks, in this order
+     rnxStatusNullPointer: a pointer is null (images and constant arrays are tested together)
+     rnxStatusBadSize: ROI width or height below 1
+     rnxStatusBadStep: a step below 1
+     rnxStatusBadSize: bit offset below 0
+
+   Example
+       RnxStatus status = rnxiGrayToBin_8u1u_C1R(gray, grayStep, bits, bitsStep, 0, roi, 127); */
+
+RnxStatus rnxiGrayToBin_8u1u_C1R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, int dstBitOffset,
+    RnxiSize roiSize, Rnx8u threshold);
+RnxStatus rnxiGrayToBin_16u1u_C1R(const Rnx16u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, int dstBitOffset,
+    RnxiSize roiSize, Rnx16u threshold);
+RnxStatus rnxiGrayToBin_16s1u_C1R(const Rnx16s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, int dstBitOffset,
+    RnxiSize roiSize, Rnx16s threshold);
+RnxStatus rnxiGrayToBin_32f1u_C1R(const Rnx32f* pSrc, int srcStep, Rnx8u* pDst, int dstStep, int dstBitOffset,
+    RnxiSize roiSize, Rnx32f threshold);
+
+/* rnxiBinToGray: Turns a one-bit image into a gray image of two levels.
+
+       dst = bit ? hiVal : loVal
+
+   Arguments
+     pSrc, srcStep, srcBitOffset: one-bit source image, its step in bytes, and the bit at which the rows start
+     pDst, dstStep: destination image and its step
+     roiSize: size of the region of interest in pixels
+     loVal, hiVal: the values for bits 0 and 1
+
+   Checks, in this order
+     rnxStatusNullPointer: a pointer is null (images and constant arrays are tested together)
+     rnxStatusBadSize: ROI width or height below 1
+     rnxStatusBadStep: a step below 1
+     rnxStatusBadSize: bit offset below 0
+
+   Example
+       RnxStatus status = rnxiBinToGray_1u8u_C1R(bits, bitsStep, 0, gray, grayStep, roi, 0, 255); */
+
+RnxStatus rnxiBinToGray_1u8u_C1R(const Rnx8u* pSrc, int srcStep, int srcBitOffset, Rnx8u* pDst, int dstStep,
+    RnxiSize roiSize, Rnx8u loVal, Rnx8u hiVal);
+RnxStatus rnxiBinToGray_1u16u_C1R(const Rnx8u* pSrc, int srcStep, int srcBitOffset, Rnx16u* pDst, int dstStep,
+    RnxiSize roiSize, Rnx16u loVal, Rnx16u hiVal);
+RnxStatus rnxiBinToGray_1u16s_C1R(const Rnx8u* pSrc, int srcStep, int srcBitOffset, Rnx16s* pDst, int dstStep,
+    RnxiSize roiSize, Rnx16s loVal, Rnx16s hiVal);
+RnxStatus rnxiBinToGray_1u32f_C1R(const Rnx8u* pSrc, int srcStep, int srcBitOffset, Rnx32f* pDst, int dstStep,
+    RnxiSize roiSize, Rnx32f loVal, Rnx32f hiVal);
+
 
 /* Border extension
    ================
