@@ -1,0 +1,185 @@
+// Between images and tiles: rows of an image become lanes of a tile, transformed rows go to strips, strips are
+// transformed down the columns.
+//
+//   work memory: strip 0 | strip 1 | ...      a strip: as many columns as V has lanes, one element per row
+//
+// The last strip and the last group of rows may overlap the one before; what they share is then computed twice, with
+// the same result. Included by row kernels only.
+#pragma once
+
+#include <algorithm>
+
+#include "core/image.h"
+#include "fft/passes.h"
+#include "fft/transform_kernels.h"
+
+namespace rnx::fft {
+namespace {
+
+// The numbers of a line in an image: number j has its real part at j * step, its imaginary part imStep behind it.
+struct Line {
+  f32* first;
+  s64 step, imStep;  // bytes
+
+  bool isContiguous() const { return step == sizeof(fc32) && imStep == sizeof(f32); }
+  f32* re(s64 j) const { return core::at(first, j * step); }
+  f32* im(s64 j) const { return core::at(first, j * step + imStep); }
+};
+
+template <class V>
+class Grid {
+public:
+  static constexpr s64 L = V::kLanes;
+  static constexpr int G = kGroup<V>;
+
+  explicit Grid(const TransformCall& c)
+      : call(c),
+        width(c.spec->gridWidth),
+        height(c.spec->gridHeight),
+        rows(*c.spec, c.spec->plans[0]),
+        columns(*c.spec, c.spec->plans[c.spec->columnPlan]),
+        strips(c.work),
+        line(core::at(c.work, c.spec->stripBytes)),
+        tile(core::at(line, c.spec->lineBytes)),
+        reAt(c.inverse ? L : 0),
+        imAt(L - reAt) {}
+
+  // ---- Tile elements, with real and imaginary parts exchanged for inverse transforms ----
+
+  RNX_INLINE void storeInput(s64 j, Complex<V> x) const {
+    f32* p = tile + j * kElement<V>;
+    x.re.store(p + reAt);
+    x.im.store(p + imAt);
+  }
+  RNX_INLINE Complex<V> loadOutput(const Transform<V>& transform, s64 k) const {
+    const f32* p = transform.output(tile, k);
+    return {V::load(p + reAt), V::load(p + imAt)};
+  }
+
+  // ---- Strips ----
+
+  s64 stripCount() const { return (width + L - 1) / L; }
+  RNX_INLINE s64 stripStart(s64 strip) const { return std::min(strip * L, width - L); }
+  RNX_INLINE f32* stripRow(s64 strip, s64 row) const { return strips + (strip * height + row) * kElement<V>; }
+
+  // Columns [4 group, 4 group + 4) of a strip in the order of its lanes, from vectors whose lanes are rows.
+  template <class Row>
+  RNX_INLINE void storeGroup(s64 strip, int group, Row row, V (&re)[G], V (&im)[G]) const {
+    storeColumns([&](int r) { return stripRow(strip, row(r)) + group * G; }, re);
+    storeColumns([&](int r) { return stripRow(strip, row(r)) + L + group * G; }, im);
+  }
+
+  // ---- Rows of complex images ----
+
+  // Floats of the rows, in fours; a row that is no multiple of four ends with four that overlap.
+  template <class Store>
+  RNX_INLINE void loadRows(const f32* first, s64 step, s64 floats, Store store) const {
+    for (s64 f = 0; f < floats; f += G) {
+      const s64 at = std::min(f, floats - G);
+      V column[G];
+      loadColumns([&](int r) { return core::at(first, r * step, at); }, column);
+      for (int i = 0; i < G; ++i) store(at + i, column[i]);
+    }
+  }
+
+  void complexRows(f32 scale) const {
+    const V factor = V::splat(scale);
+    for (s64 row = 0; row < height; row += L) {
+      const s64 first = std::min(row, height - L);
+      loadRows(core::at(call.src, first * call.srcStep), call.srcStep, 2 * width, [&](s64 f, V v) {
+        v.store(tile + (f >> 1) * kElement<V> + ((f & 1) != 0 ? imAt : reAt));
+      });
+      rows.run(tile, tile);
+      forEachGroup([&](s64 strip, s64 start, int group) {
+        V re[G], im[G];
+        for (int i = 0; i < G; ++i) {
+          const f32* p = rows.output(tile, start + pairedElement<V>(group * G + i));
+          re[i] = V::load(p) * factor;
+          im[i] = V::load(p + L) * factor;
+        }
+        storeGroup(strip, group, [&](int r) { return first + r; }, re, im);
+      });
+    }
+  }
+
+  // f(strip, first column, group) for all groups of all strips.
+  template <class F>
+  RNX_INLINE void forEachGroup(F f) const {
+    for (s64 strip = 0; strip < stripCount(); ++strip) {
+      const s64 start = stripStart(strip);
+      for (int group = 0; group < L / G; ++group) f(strip, start, group);
+    }
+  }
+
+  // The columns of all strips; store(k, first column, numbers) takes row k of the result.
+  template <class Store>
+  RNX_INLINE void storeColumnsOf(f32 scale, Store store) const {
+    const V factor = V::splat(scale);
+    for (s64 strip = 0; strip < stripCount(); ++strip) {
+      columns.run(stripRow(strip, 0), tile);
+      const s64 start = stripStart(strip);
+      for (s64 k = 0; k < height; ++k) store(k, start, loadOutput(columns, k) * factor);
+    }
+  }
+
+  // ---- Lines ----
+
+  RNX_INLINE Complex<V> loadLine(const Line& from, s64 j) const {
+    if (from.isContiguous()) return loadPairs<V>(from.re(j));
+    f32 buffer[2 * L];
+    for (s64 i = 0; i < L; ++i) {
+      buffer[2 * i] = read<f32>(from.re(j + i));
+      buffer[2 * i + 1] = read<f32>(from.im(j + i));
+    }
+    return loadPairs<V>(buffer);
+  }
+  RNX_INLINE void storeLine(const Line& to, s64 j, Complex<V> x) const {
+    if (to.isContiguous()) return storePairs(to.re(j), x);
+    f32 buffer[2 * L];
+    storePairs(buffer, x);
+    for (s64 i = 0; i < L; ++i) {
+      write(to.re(j + i), buffer[2 * i]);
+      write(to.im(j + i), buffer[2 * i + 1]);
+    }
+  }
+
+  // A line of width * height numbers, by its factors: with j = height j1 + j2 and k = width k2 + k1,
+  //   X_k = sum over j2 of w_height^(j2 k2) w^(j2 k1) * sum over j1 of w_width^(j1 k1) x_j
+  // The lanes of the inner sum are neighbours j2, those of the outer one neighbours k1.
+  void splitLine(const Line& from, const Line& to, f32 scale) const {
+    for (s64 j2 = 0; j2 < height; j2 += L) {
+      const s64 first = std::min(j2, height - L);
+      for (s64 j1 = 0; j1 < width; ++j1) storeInput(j1, loadLine(from, j1 * height + first));
+      rows.run(tile, tile);
+      const f32* twiddles = call.spec->table<f32>(call.spec->lineTwiddles) + 2 * first;
+      forEachGroup([&](s64 strip, s64 start, int group) {
+        V re[G], im[G];
+        for (int i = 0; i < G; ++i) {
+          const s64 k1 = start + pairedElement<V>(group * G + i);
+          const Complex<V> x = loadElement<V>(rows.output(tile, k1)) * loadPairs<V>(twiddles + 2 * k1 * height);
+          re[i] = x.re;
+          im[i] = x.im;
+        }
+        storeGroup(strip, group, [&](int r) { return first + pairedElement<V>(r); }, re, im);
+      });
+    }
+    storeColumnsOf(scale, [&](s64 k2, s64 k1, Complex<V> x) { storeLine(to, k2 * width + k1, x); });
+  }
+
+  void shortLine(const Line& from, const Line& to, f32 scale) const {
+    for (s64 j = 0; j < width; ++j) storeInput(j, loadLine(from, j));
+    rows.run(tile, tile);
+    for (s64 k = 0; k < width; ++k) storeLine(to, k, loadOutput(rows, k) * V::splat(scale));
+  }
+
+  const TransformCall& call;
+  const s64 width, height;
+  const Transform<V> rows, columns;
+  f32* const strips;
+  f32* const line;
+  f32* const tile;
+  const s64 reAt, imAt;
+};
+
+}  // namespace
+}  // namespace rnx::fft
