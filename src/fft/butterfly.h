@@ -83,37 +83,45 @@ RNX_INLINE Complex<V> rotate(Complex<V> x) {
 
 // ---- Butterflies ----
 
+// The points of a butterfly, real and imaginary parts apart: compilers keep arrays of vectors in registers, but not
+// arrays of pairs of them.
+template <class V, int N>
+struct Points {
+  V re[N], im[N];
+
+  RNX_INLINE Complex<V> operator[](int i) const { return {re[i], im[i]}; }
+  RNX_INLINE void set(int i, Complex<V> x) {
+    re[i] = x.re;
+    im[i] = x.im;
+  }
+};
+
 // An odd prime P, by its symmetric halves: with s_k = x_k + x_(P-k) and d_k = x_k - x_(P-k),
 //   X_j, X_(P-j) = x_0 + sum of cos(2 pi jk/P) s_k  -+  i * sum of sin(2 pi jk/P) d_k
 template <int P>
 struct Butterfly {
   template <class V>
-  static RNX_INLINE void apply(Complex<V> (&x)[P]) {
+  static RNX_INLINE void apply(Points<V, P>& x) {
     constexpr int kHalf = P / 2;
-    Complex<V> sum[kHalf], difference[kHalf], real[kHalf], imaginary[kHalf];
-    Complex<V> total = x[0];
-    unroll<0, kHalf>([&](auto k) {
-      constexpr int i = decltype(k)::value + 1;
-      sum[i - 1] = x[i] + x[P - i];
-      difference[i - 1] = x[i] - x[P - i];
-      total = total + sum[i - 1];
+    Points<V, kHalf + 1> sum, difference;  // from 1
+    const Complex<V> first = x[0];
+    Complex<V> total = first;
+    unroll<1, kHalf + 1>([&](auto k) RNX_LAMBDA {
+      sum.set(k.value, x[k.value] + x[P - k.value]);
+      difference.set(k.value, x[k.value] - x[P - k.value]);
+      total = total + sum[k.value];
     });
-    unroll<0, kHalf>([&](auto output) {
-      constexpr int j = decltype(output)::value + 1;
-      real[j - 1] = x[0] + sum[0] * V::splat(kCosine<j, P>);
-      imaginary[j - 1] = difference[0] * V::splat(kSine<j, P>);
-      unroll<2, kHalf + 1>([&](auto k) {
-        constexpr int i = decltype(k)::value;
-        real[j - 1] = real[j - 1] + sum[i - 1] * V::splat(kCosine<i * j, P>);
-        imaginary[j - 1] = imaginary[j - 1] + difference[i - 1] * V::splat(kSine<i * j, P>);
+    x.set(0, total);
+    unroll<1, kHalf + 1>([&](auto output) RNX_LAMBDA {
+      constexpr int j = decltype(output)::value;
+      Complex<V> r = first + sum[1] * V::splat(kCosine<j, P>), i = difference[1] * V::splat(kSine<j, P>);
+      unroll<2, kHalf + 1>([&](auto index) RNX_LAMBDA {
+        constexpr int k = decltype(index)::value;
+        r = r + sum[k] * V::splat(kCosine<k * j, P>);
+        i = i + difference[k] * V::splat(kSine<k * j, P>);
       });
-    });
-    x[0] = total;
-    unroll<0, kHalf>([&](auto output) {
-      constexpr int j = decltype(output)::value + 1;
-      const Complex<V> r = real[j - 1], i = imaginary[j - 1];
-      x[j] = {r.re + i.im, r.im - i.re};
-      x[P - j] = {r.re - i.im, r.im + i.re};
+      x.set(j, {r.re + i.im, r.im - i.re});
+      x.set(P - j, {r.re - i.im, r.im + i.re});
     });
   }
 };
@@ -121,45 +129,48 @@ struct Butterfly {
 template <>
 struct Butterfly<2> {
   template <class V>
-  static RNX_INLINE void apply(Complex<V> (&x)[2]) {
+  static RNX_INLINE void apply(Points<V, 2>& x) {
     const Complex<V> a = x[0], b = x[1];
-    x[0] = a + b;
-    x[1] = a - b;
+    x.set(0, a + b);
+    x.set(1, a - b);
   }
 };
 
 template <>
 struct Butterfly<4> {
   template <class V>
-  static RNX_INLINE void apply(Complex<V> (&x)[4]) {
+  static RNX_INLINE void apply(Points<V, 4>& x) {
     const Complex<V> a = x[0] + x[2], b = x[0] - x[2], c = x[1] + x[3], d = x[1] - x[3];
-    x[0] = a + c;
-    x[1] = {b.re + d.im, b.im - d.re};
-    x[2] = a - c;
-    x[3] = {b.re - d.im, b.im + d.re};
+    x.set(0, a + c);
+    x.set(1, {b.re + d.im, b.im - d.re});
+    x.set(2, a - c);
+    x.set(3, {b.re - d.im, b.im + d.re});
   }
 };
 
-// A * B points: with input B a + b and output k + A l, transforms of A points over a, rotations, and of B points over b.
+// A * B points: with input B a + b and output k + A l, transforms of A points over a, rotations, and of B points over
+// b.
 template <int A, int B>
 struct Composite {
   template <class V>
-  static RNX_INLINE void apply(Complex<V> (&x)[A * B]) {
-    Complex<V> y[A][B];
-    unroll<0, B>([&](auto column) {
+  static RNX_INLINE void apply(Points<V, A * B>& x) {
+    unroll<0, B>([&](auto column) RNX_LAMBDA {
       constexpr int b = decltype(column)::value;
-      Complex<V> t[A];
-      unroll<0, A>([&](auto a) { t[decltype(a)::value] = x[B * decltype(a)::value + b]; });
+      Points<V, A> t;
+      unroll<0, A>([&](auto a) RNX_LAMBDA { t.set(a.value, x[B * a.value + b]); });
       Butterfly<A>::apply(t);
-      unroll<0, A>([&](auto k) {
-        constexpr int i = decltype(k)::value;
-        y[i][b] = rotate<b * i, A * B>(t[i]);
+      unroll<0, A>([&](auto index) RNX_LAMBDA {
+        constexpr int k = decltype(index)::value;
+        x.set(B * k + b, rotate<b * k, A * B>(t[k]));
       });
     });
-    unroll<0, A>([&](auto row) {
+    const Points<V, A* B> y = x;
+    unroll<0, A>([&](auto row) RNX_LAMBDA {
       constexpr int k = decltype(row)::value;
-      Butterfly<B>::apply(y[k]);
-      unroll<0, B>([&](auto l) { x[k + A * decltype(l)::value] = y[k][decltype(l)::value]; });
+      Points<V, B> t;
+      unroll<0, B>([&](auto b) RNX_LAMBDA { t.set(b.value, y[B * k + b.value]); });
+      Butterfly<B>::apply(t);
+      unroll<0, B>([&](auto l) RNX_LAMBDA { x.set(k + A * l.value, t[l.value]); });
     });
   }
 };
@@ -167,11 +178,6 @@ struct Composite {
 // clang-format off
 template <> struct Butterfly<6> : Composite<2, 3> {};
 template <> struct Butterfly<8> : Composite<2, 4> {};
-template <> struct Butterfly<9> : Composite<3, 3> {};
-template <> struct Butterfly<10> : Composite<2, 5> {};
-template <> struct Butterfly<12> : Composite<3, 4> {};
-template <> struct Butterfly<15> : Composite<3, 5> {};
-template <> struct Butterfly<16> : Composite<4, 4> {};
 // clang-format on
 
 }  // namespace

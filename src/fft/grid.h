@@ -65,8 +65,8 @@ public:
   // Columns [4 group, 4 group + 4) of a strip in the order of its lanes, from vectors whose lanes are rows.
   template <class Row>
   RNX_INLINE void storeGroup(s64 strip, int group, Row row, V (&re)[G], V (&im)[G]) const {
-    storeColumns([&](int r) { return stripRow(strip, row(r)) + group * G; }, re);
-    storeColumns([&](int r) { return stripRow(strip, row(r)) + L + group * G; }, im);
+    storeColumns([&](int r) RNX_LAMBDA { return stripRow(strip, row(r)) + group * G; }, re);
+    storeColumns([&](int r) RNX_LAMBDA { return stripRow(strip, row(r)) + L + group * G; }, im);
   }
 
   // ---- Rows of complex images ----
@@ -77,8 +77,8 @@ public:
     for (s64 f = 0; f < floats; f += G) {
       const s64 at = std::min(f, floats - G);
       V column[G];
-      loadColumns([&](int r) { return core::at(first, r * step, at); }, column);
-      for (int i = 0; i < G; ++i) store(at + i, column[i]);
+      loadColumns([&](int r) RNX_LAMBDA { return core::at(first, r * step, at); }, column);
+      unroll<0, G>([&](auto i) RNX_LAMBDA { store(at + i.value, column[i.value]); });
     }
   }
 
@@ -86,18 +86,19 @@ public:
     const V factor = V::splat(scale);
     for (s64 row = 0; row < height; row += L) {
       const s64 first = std::min(row, height - L);
-      loadRows(core::at(call.src, first * call.srcStep), call.srcStep, 2 * width, [&](s64 f, V v) {
-        v.store(tile + (f >> 1) * kElement<V> + ((f & 1) != 0 ? imAt : reAt));
-      });
+      loadRows(core::at(call.src, first * call.srcStep), call.srcStep, 2 * width,
+               [&](s64 f, V v) RNX_LAMBDA { v.store(tile + (f >> 1) * kElement<V> + ((f & 1) != 0 ? imAt : reAt)); });
       rows.run(tile, tile);
-      forEachGroup([&](s64 strip, s64 start, int group) {
+      forEachGroup([&](s64 strip, s64 start, int group) RNX_LAMBDA {
         V re[G], im[G];
-        for (int i = 0; i < G; ++i) {
+        unroll<0, G>([&](auto index) RNX_LAMBDA {
+          constexpr int i = decltype(index)::value;
           const f32* p = rows.output(tile, start + pairedElement<V>(group * G + i));
           re[i] = V::load(p) * factor;
           im[i] = V::load(p + L) * factor;
-        }
-        storeGroup(strip, group, [&](int r) { return first + r; }, re, im);
+        });
+        storeGroup(
+            strip, group, [&](int r) RNX_LAMBDA { return first + r; }, re, im);
       });
     }
   }
@@ -152,18 +153,20 @@ public:
       for (s64 j1 = 0; j1 < width; ++j1) storeInput(j1, loadLine(from, j1 * height + first));
       rows.run(tile, tile);
       const f32* twiddles = call.spec->table<f32>(call.spec->lineTwiddles) + 2 * first;
-      forEachGroup([&](s64 strip, s64 start, int group) {
+      forEachGroup([&](s64 strip, s64 start, int group) RNX_LAMBDA {
         V re[G], im[G];
-        for (int i = 0; i < G; ++i) {
+        unroll<0, G>([&](auto index) RNX_LAMBDA {
+          constexpr int i = decltype(index)::value;
           const s64 k1 = start + pairedElement<V>(group * G + i);
           const Complex<V> x = loadElement<V>(rows.output(tile, k1)) * loadPairs<V>(twiddles + 2 * k1 * height);
           re[i] = x.re;
           im[i] = x.im;
-        }
-        storeGroup(strip, group, [&](int r) { return first + pairedElement<V>(r); }, re, im);
+        });
+        storeGroup(
+            strip, group, [&](int r) RNX_LAMBDA { return first + pairedElement<V>(r); }, re, im);
       });
     }
-    storeColumnsOf(scale, [&](s64 k2, s64 k1, Complex<V> x) { storeLine(to, k2 * width + k1, x); });
+    storeColumnsOf(scale, [&](s64 k2, s64 k1, Complex<V> x) RNX_LAMBDA { storeLine(to, k2 * width + k1, x); });
   }
 
   void shortLine(const Line& from, const Line& to, f32 scale) const {

@@ -6,6 +6,9 @@
 
 #include "simd/transpose.h"
 
+// Lambdas of the inner loops: their captures must stay in registers.
+#define RNX_LAMBDA __attribute__((always_inline))
+
 namespace rnx::fft {
 namespace {
 

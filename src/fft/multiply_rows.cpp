@@ -62,8 +62,8 @@ private:
         const Lanes x = Lanes::load(a + at), y = Lanes::load(b + at);
         const Lanes xOther = select(isReal, Lanes::load(a + at + kChannels), Lanes::load(a + at - kChannels));
         const Lanes yOther = select(isReal, Lanes::load(b + at + kChannels), Lanes::load(b + at - kChannels));
-        result[v] = select(isReal, productRe<kConjugate>(x, xOther, y, yOther),
-                           productIm<kConjugate>(xOther, x, yOther, y));
+        result[v] =
+            select(isReal, productRe<kConjugate>(x, xOther, y, yOther), productIm<kConjugate>(xOther, x, yOther, y));
         if constexpr (kUsed < kChannels) {
           result[v] = select(simd::Mask<f32>::load(isUsed_ + v * L), result[v], Lanes::load(dst + at));
         }
@@ -71,8 +71,9 @@ private:
       for (int v = 0; v < kVectors; ++v) result[v].store(dst + i + v * L);
     }
     for (; i < n; i += kPeriod) {
-      for (int c = 0; c < kUsed; ++c) number(a + i + c, b + i + c, dst + i + c, a + i + c + kChannels,
-                                             b + i + c + kChannels, dst + i + c + kChannels);
+      for (int c = 0; c < kUsed; ++c)
+        number(a + i + c, b + i + c, dst + i + c, a + i + c + kChannels, b + i + c + kChannels,
+               dst + i + c + kChannels);
     }
   }
 
@@ -84,7 +85,9 @@ private:
 
   // Real numbers in row 0 and, for even heights, in the last row; between them complex ones down the column.
   void outerColumn(s64 x) const {
-    const auto at = [x](auto* image, s64 step, s64 row, int c) { return core::at(image, row * step, x * kChannels + c); };
+    const auto at = [x](auto* image, s64 step, s64 row, int c) {
+      return core::at(image, row * step, x * kChannels + c);
+    };
     const auto a = [&](s64 row, int c) { return at(call_.left, call_.leftStep, row, c); };
     const auto b = [&](s64 row, int c) { return at(call_.right, call_.rightStep, row, c); };
     const auto d = [&](s64 row, int c) { return at(call_.dst, call_.dstStep, row, c); };

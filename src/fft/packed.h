@@ -28,9 +28,10 @@ public:
       loadRealRows(first, 0);
       loadRealRows(first + L, L);
       rows.run(tile, tile);
-      this->forEachGroup([&](s64 strip, s64 start, int group) {
+      this->forEachGroup([&](s64 strip, s64 start, int group) RNX_LAMBDA {
         V re[G], im[G], reB[G], imB[G];
-        for (int i = 0; i < G; ++i) {
+        unroll<0, G>([&](auto index) RNX_LAMBDA {
+          constexpr int i = decltype(index)::value;
           const s64 k = start + pairedElement<V>(group * G + i);
           const Complex<V> z = loadElement<V>(rows.output(tile, k));
           if (k == 0) {
@@ -44,9 +45,11 @@ public:
             re[i] = (z.re + y.re) * half, im[i] = (z.im - y.im) * half;
             reB[i] = (z.im + y.im) * half, imB[i] = (y.re - z.re) * half;
           }
-        }
-        this->storeGroup(strip, group, [&](int r) { return first + r; }, re, im);
-        this->storeGroup(strip, group, [&](int r) { return first + L + r; }, reB, imB);
+        });
+        this->storeGroup(
+            strip, group, [&](int r) RNX_LAMBDA { return first + r; }, re, im);
+        this->storeGroup(
+            strip, group, [&](int r) RNX_LAMBDA { return first + L + r; }, reB, imB);
       });
     }
   }
@@ -79,11 +82,12 @@ public:
   void inverseRows(f32 scale) const {
     for (s64 row = 0; row < height; row += 2 * L) {
       const s64 first = std::min(row, height - 2 * L);
-      this->forEachGroup([&](s64 strip, s64 start, int group) {
+      this->forEachGroup([&](s64 strip, s64 start, int group) RNX_LAMBDA {
         V re[G], im[G], reB[G], imB[G];
         loadGroup(strip, group, first, re, im);
         loadGroup(strip, group, first + L, reB, imB);
-        for (int i = 0; i < G; ++i) {
+        unroll<0, G>([&](auto index) RNX_LAMBDA {
+          constexpr int i = decltype(index)::value;
           const s64 k = start + pairedElement<V>(group * G + i);
           if (k == 0) {
             this->storeInput(0, Complex<V>{re[i], reB[i]});
@@ -92,7 +96,7 @@ public:
             this->storeInput(k, Complex<V>{re[i] - imB[i], im[i] + reB[i]});
             this->storeInput(imageWidth - k, Complex<V>{re[i] + imB[i], reB[i] - im[i]});
           }
-        }
+        });
       });
       rows.run(tile, tile);
       storeRealRows(first, reAt, scale);
@@ -106,7 +110,8 @@ private:
   void loadRealRows(s64 first, s64 part) const {
     const f32* top = core::at(call.src, first * call.srcStep);
     if (call.channels == 1) {
-      this->loadRows(top, call.srcStep, imageWidth, [&](s64 f, V v) { v.store(tile + f * kElement<V> + part); });
+      this->loadRows(top, call.srcStep, imageWidth,
+                     [&](s64 f, V v) RNX_LAMBDA { v.store(tile + f * kElement<V> + part); });
       return;
     }
     for (s64 x = 0; x < imageWidth; ++x) {
@@ -122,9 +127,10 @@ private:
     for (s64 x = 0; x < imageWidth; x += G) {
       const s64 at = std::min(x, imageWidth - G);
       V column[G];
-      for (int i = 0; i < G; ++i) column[i] = V::load(rows.output(tile, at + i) + part) * factor;
+      unroll<0, G>([&](auto i)
+                       RNX_LAMBDA { column[i.value] = V::load(rows.output(tile, at + i.value) + part) * factor; });
       if (call.channels == 1) {
-        storeColumns([&](int r) { return core::at(top, r * call.dstStep, at); }, column);
+        storeColumns([&](int r) RNX_LAMBDA { return core::at(top, r * call.dstStep, at); }, column);
         continue;
       }
       for (int i = 0; i < G; ++i) {
@@ -143,8 +149,8 @@ private:
   }
 
   RNX_INLINE void loadGroup(s64 strip, int group, s64 first, V (&re)[G], V (&im)[G]) const {
-    loadColumns([&](int r) { return this->stripRow(strip, first + r) + group * G; }, re);
-    loadColumns([&](int r) { return this->stripRow(strip, first + r) + L + group * G; }, im);
+    loadColumns([&](int r) RNX_LAMBDA { return this->stripRow(strip, first + r) + group * G; }, re);
+    loadColumns([&](int r) RNX_LAMBDA { return this->stripRow(strip, first + r) + L + group * G; }, im);
   }
 
   // ---- Rows of the packed spectrum: number k of a row, k at least 1, stands in columns 2 k - 1 and 2 k ----
@@ -195,11 +201,11 @@ private:
   void storeOuterColumns(f32 scale) const {
     const bool hasRight = imageWidth % 2 == 0;
     const f32 half = 0.5f * scale;
-    const auto put = [&](s64 row, f32 left, f32 right) {
+    const auto put = [&](s64 row, f32 left, f32 right) RNX_LAMBDA {
       write(outer(call.dst, call.dstStep, row, false), left);
       if (hasRight) write(outer(call.dst, call.dstStep, row, true), right);
     };
-    const auto z = [&](s64 l) {
+    const auto z = [&](s64 l) RNX_LAMBDA {
       const f32* p = columns.output(tile, l);
       return fc32{p[0], p[L]};
     };
@@ -215,9 +221,10 @@ private:
   void loadOuterColumns() const {
     const bool hasRight = imageWidth % 2 == 0;
     f32* src = const_cast<f32*>(call.src);
-    const auto left = [&](s64 row) { return read<f32>(outer(src, call.srcStep, row, false)); };
-    const auto right = [&](s64 row) { return hasRight ? read<f32>(outer(src, call.srcStep, row, true)) : 0.0f; };
-    const auto put = [&](s64 l, f32 re, f32 im) {
+    const auto left = [&](s64 row) RNX_LAMBDA { return read<f32>(outer(src, call.srcStep, row, false)); };
+    const auto right = [&](s64 row)
+                           RNX_LAMBDA { return hasRight ? read<f32>(outer(src, call.srcStep, row, true)) : 0.0f; };
+    const auto put = [&](s64 l, f32 re, f32 im) RNX_LAMBDA {
       tile[l * kElement<V> + reAt] = re;
       tile[l * kElement<V> + imAt] = im;
     };

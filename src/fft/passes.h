@@ -26,26 +26,24 @@ template <class V>
 using Pass = void (*)(const f32* src, f32* dst, s64 blockSize, s64 blocks, const fc32* factors);
 
 template <class V, int R, Twiddles kWhere>
-void pass(const f32* src, f32* dst, s64 blockSize, s64 blocks, const fc32* factors) {
+RNX_INLINE void pass(const f32* src, f32* dst, s64 blockSize, s64 blocks, const fc32* factors) {
   const s64 butterflies = blockSize / R, stride = butterflies * kElement<V>;
   for (s64 block = 0; block < blocks; ++block) {
     const fc32* factor = factors;
     for (s64 j = 0; j < butterflies; ++j) {
-      Complex<V> x[R];
-      unroll<0, R>([&](auto index) {
+      Points<V, R> x;
+      unroll<0, R>([&](auto index) RNX_LAMBDA {
         constexpr int r = decltype(index)::value;
-        x[r] = loadElement<V>(src + r * stride);
-        if constexpr (r > 0 && kWhere == Twiddles::kBefore) {
-          x[r] = x[r] * splatFactor<V>(factor + (r - 1));
-        }
+        Complex<V> value = loadElement<V>(src + r * stride);
+        if constexpr (r > 0 && kWhere == Twiddles::kBefore) value = value * splatFactor<V>(factor + (r - 1));
+        x.set(r, value);
       });
       Butterfly<R>::apply(x);
-      unroll<0, R>([&](auto index) {
+      unroll<0, R>([&](auto index) RNX_LAMBDA {
         constexpr int r = decltype(index)::value;
-        if constexpr (r > 0 && kWhere == Twiddles::kAfter) {
-          x[r] = x[r] * splatFactor<V>(factor + (r - 1));
-        }
-        storeElement(dst + r * stride, x[r]);
+        Complex<V> value = x[r];
+        if constexpr (r > 0 && kWhere == Twiddles::kAfter) value = value * splatFactor<V>(factor + (r - 1));
+        storeElement(dst + r * stride, value);
       });
       src += kElement<V>;
       dst += kElement<V>;
@@ -56,41 +54,48 @@ void pass(const f32* src, f32* dst, s64 blockSize, s64 blocks, const fc32* facto
   }
 }
 
+// Most passes work in place. That they say so saves half of the pointers.
+template <class V, int R, Twiddles kWhere>
+void passApart(const f32* src, f32* dst, s64 blockSize, s64 blocks, const fc32* factors) {
+  pass<V, R, kWhere>(src, dst, blockSize, blocks, factors);
+}
+template <class V, int R, Twiddles kWhere>
+void passInPlace(const f32*, f32* tile, s64 blockSize, s64 blocks, const fc32* factors) {
+  pass<V, R, kWhere>(tile, tile, blockSize, blocks, factors);
+}
+
 template <class V>
 struct PassesOf {
-  Pass<V> last, inFrequency, inTime;
+  Pass<V> lastApart, inFrequencyApart, last, inFrequency, inTime;
 };
 
 template <class V, int R>
-inline constexpr PassesOf<V> kPassesOf = {pass<V, R, Twiddles::kNone>, pass<V, R, Twiddles::kAfter>,
-                                          pass<V, R, Twiddles::kBefore>};
+inline constexpr PassesOf<V> kPassesOf = {passApart<V, R, Twiddles::kNone>, passApart<V, R, Twiddles::kAfter>,
+                                          passInPlace<V, R, Twiddles::kNone>, passInPlace<V, R, Twiddles::kAfter>,
+                                          passInPlace<V, R, Twiddles::kBefore>};
 
 // By radix.
 template <class V>
-inline constexpr PassesOf<V> kPasses[17] = {
-    {},
-    {},
-    kPassesOf<V, 2>,
-    kPassesOf<V, 3>,
-    kPassesOf<V, 4>,
-    kPassesOf<V, 5>,
-    kPassesOf<V, 6>,
-    kPassesOf<V, 7>,
-    kPassesOf<V, 8>,
-    kPassesOf<V, 9>,
-    kPassesOf<V, 10>,
-    kPassesOf<V, 11>,
-    kPassesOf<V, 12>,
-    kPassesOf<V, 13>,
-    {},
-    kPassesOf<V, 15>,
-    kPassesOf<V, 16>,
-};
+inline constexpr PassesOf<V> kPasses[14] = {{},
+                                            {},
+                                            kPassesOf<V, 2>,
+                                            kPassesOf<V, 3>,
+                                            kPassesOf<V, 4>,
+                                            kPassesOf<V, 5>,
+                                            kPassesOf<V, 6>,
+                                            kPassesOf<V, 7>,
+                                            kPassesOf<V, 8>,
+                                            {},
+                                            {},
+                                            kPassesOf<V, 11>,
+                                            {},
+                                            kPassesOf<V, 13>};
 
 template <class V>
 class Transform {
 public:
-  Transform(const Spec& spec, const Plan& plan) : spec_(spec), plan_(plan), positions_(spec.table<s32>(plan.positions)) {}
+  Transform(const Spec& spec, const Plan& plan)
+      : spec_(spec), plan_(plan), positions_(spec.table<s32>(plan.positions)) {}
 
   // Transforms a sequence of plan.length elements. src is the tile itself or apart from it.
   void run(const f32* src, f32* tile) const {
@@ -104,9 +109,7 @@ public:
   }
 
   // Where output k is, after run().
-  RNX_INLINE f32* output(f32* tile, s64 k) const {
-    return tile + positions_[k] * kElement<V>;
-  }
+  RNX_INLINE f32* output(f32* tile, s64 k) const { return tile + positions_[k] * kElement<V>; }
 
 private:
   static constexpr s64 kElementBytes = kElement<V> * s64{sizeof(f32)};
@@ -117,7 +120,9 @@ private:
       const s32 radix = plan_.radix[level];
       const bool last = level + 1 == plan_.passCount;
       const auto& passes = kPasses<V>[radix];
-      (last ? passes.last : passes.inFrequency)(src, tile, blockSize, blocks, spec_.table<fc32>(plan_.twiddles[level]));
+      const Pass<V> apart = last ? passes.lastApart : passes.inFrequencyApart;
+      const Pass<V> inPlace = last ? passes.last : passes.inFrequency;
+      (src == tile ? inPlace : apart)(src, tile, blockSize, blocks, spec_.table<fc32>(plan_.twiddles[level]));
       const bool splits = blockSize * kElementBytes > kCachedBytes && blocks == 1 && !last;
       blockSize /= radix;
       blocks *= radix;
@@ -177,9 +182,7 @@ private:
     }
   }
 
-  RNX_INLINE Complex<V> factor(u32 table, s64 k) const {
-    return splatFactor<V>(spec_.table<fc32>(table) + k);
-  }
+  RNX_INLINE Complex<V> factor(u32 table, s64 k) const { return splatFactor<V>(spec_.table<fc32>(table) + k); }
 
   const Spec& spec_;
   const Plan& plan_;

@@ -40,8 +40,8 @@ struct Radix {
   f32 cost;  // of one pass, per element; measured
 };
 
-constexpr Radix kRadices[] = {{16, 5.6f}, {15, 6.4f}, {13, 9.0f}, {12, 5.0f}, {11, 8.0f}, {10, 5.2f}, {9, 5.0f},
-                              {8, 4.4f},  {7, 6.0f},  {6, 4.2f},  {5, 4.4f},  {4, 3.6f},  {3, 3.6f},  {2, 3.0f}};
+constexpr Radix kRadices[] = {{13, 3.5f}, {11, 3.0f}, {8, 1.40f}, {7, 1.9f}, {6, 1.38f},
+                              {5, 1.3f},  {4, 0.84f}, {3, 0.87f}, {2, 0.57f}};
 
 struct Factors {
   f32 cost = INFINITY;
@@ -80,7 +80,7 @@ s64 convolutionSize(s64 least) {
   for (const s64 odd : {1, 3, 5, 9, 15, 25, 27, 45, 75, 81, 125}) {
     s64 size = odd;
     while (size < least) size *= 2;
-    const f64 cost = static_cast<f64>(size) * static_cast<f64>(factorsOf(size).cost + 3);
+    const f64 cost = static_cast<f64>(size) * static_cast<f64>(factorsOf(size).cost + 1);
     if (cost < bestCost) {
       bestCost = cost;
       bestSize = size;
@@ -147,7 +147,7 @@ void transformExactly(const Plan& plan, const Root* roots, Root* x) {
     const s64 radix = plan.radix[pass], part = blockSize / radix, turns = plan.size / blockSize;
     for (s64 i = 0; i < plan.size; ++i) {
       if (i % blockSize >= part) continue;  // i is the first point of a butterfly
-      Root in[16];
+      Root in[13];
       for (s64 r = 0; r < radix; ++r) in[r] = x[i + r * part];
       for (s64 q = 0; q < radix; ++q) {
         Root sum = {0, 0};

@@ -34,10 +34,13 @@ Request requestFor(int orderX, int orderY, int flag, int hint) {
 }
 
 // A size as reported: with room for alignment.
-inline s64 reported(s64 bytes) { return bytes == 0 ? 0 : core::roundUp(bytes, core::kSpecAlignment) + core::kSpecAlignment; }
+inline s64 reported(s64 bytes) {
+  return bytes == 0 ? 0 : core::roundUp(bytes, core::kSpecAlignment) + core::kSpecAlignment;
+}
 
 inline bool fits(const Sizes& sizes) {
-  return reported(sizes.spec) <= core::kMaxReportedSize && reported(sizes.init) <= core::kMaxReportedSize && reported(sizes.work) <= core::kMaxReportedSize;
+  return reported(sizes.spec) <= core::kMaxReportedSize && reported(sizes.init) <= core::kMaxReportedSize &&
+         reported(sizes.work) <= core::kMaxReportedSize;
 }
 
 inline RnxStatus reportSizes(const Request& request, int* specSize, int* initSize, int* workSize) {

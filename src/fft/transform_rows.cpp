@@ -33,16 +33,15 @@ void complexGrid(const TransformCall& call) {
   const Grid<V> grid(call);
   const Scale scale = scaleOf(call);
   grid.complexRows(scale.x);
-  grid.storeColumnsOf(scale.y, [&](s64 k, s64 start, Complex<V> x) {
-    storePairs(core::at(call.dst, k * call.dstStep, 2 * start), x);
-  });
+  grid.storeColumnsOf(scale.y, [&](s64 k, s64 start, Complex<V> x)
+                                   RNX_LAMBDA { storePairs(core::at(call.dst, k * call.dstStep, 2 * start), x); });
 }
 
 void complexToComplex(const TransformCall& call) {
   const Shape shape = call.spec->shape;
   if (shape == Shape::kGrid) return complexGrid<Vector>(call);
   if (shape == Shape::kNarrow) return complexGrid<Single>(call);
-  const auto line = [&](const f32* image, s64 step) {
+  const auto line = [&](const f32* image, s64 step) RNX_LAMBDA {
     return Line{const_cast<f32*>(image), liesAlongRow(call) ? s64{sizeof(fc32)} : step, sizeof(f32)};
   };
   const Scale scale = scaleOf(call);

@@ -32,15 +32,21 @@ RNX_INLINE void transposeFours(Vec<f32> (&v)[4]) {
 
 // column[i] holds element i of every row: lane r that of row(r), a pointer.
 template <class Row>
-RNX_INLINE void loadColumns(Row row, Vec<f32> (&column)[4]) {
-  for (int r = 0; r < 4; ++r) column[r] = loadFours(row(r), row((r + 4) % Vec<f32>::kLanes));
+RNX_INLINE void loadColumns(const Row& row, Vec<f32> (&column)[4]) {
+  column[0] = loadFours(row(0), row(4 % Vec<f32>::kLanes));
+  column[1] = loadFours(row(1), row(5 % Vec<f32>::kLanes));
+  column[2] = loadFours(row(2), row(6 % Vec<f32>::kLanes));
+  column[3] = loadFours(row(3), row(7 % Vec<f32>::kLanes));
   transposeFours(column);
 }
 
 template <class Row>
-RNX_INLINE void storeColumns(Row row, Vec<f32> (&column)[4]) {
+RNX_INLINE void storeColumns(const Row& row, Vec<f32> (&column)[4]) {
   transposeFours(column);
-  for (int r = 0; r < 4; ++r) storeFours(row(r), row((r + 4) % Vec<f32>::kLanes), column[r]);
+  storeFours(row(0), row(4 % Vec<f32>::kLanes), column[0]);
+  storeFours(row(1), row(5 % Vec<f32>::kLanes), column[1]);
+  storeFours(row(2), row(6 % Vec<f32>::kLanes), column[2]);
+  storeFours(row(3), row(7 % Vec<f32>::kLanes), column[3]);
 }
 
 // ---- Complex numbers: a vector of real and one of imaginary parts. Lane i belongs to element pairedElement(i) of the

@@ -44,7 +44,8 @@ struct Vec {
 
   static RNX_INLINE Vec of(Int r) { return {reinterpret_cast<Raw>(r)}; }
   static RNX_INLINE Vec zero() { return {Raw{}}; }
-  static RNX_INLINE Vec splat(T v) { return {Raw{} + v}; }
+  // Minus zero: plus zero would be an addition, for it changes -0.0.
+  static RNX_INLINE Vec splat(T v) { return {v - Raw{}}; }
   static RNX_INLINE Vec load(const T* p) {
     return {reinterpret_cast<Raw>(RNX_MM(loadu_ps)(reinterpret_cast<const float*>(p)))};
   }
