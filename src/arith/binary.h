@@ -3,6 +3,7 @@
 #pragma once
 
 #include <algorithm>
+#include <bit>
 
 #include "arith/binary_kernels.h"
 #include "core/checks.h"
@@ -60,6 +61,7 @@ struct Sub {
   template <class T, RightOperand R>
   static Choice<T> choose(const IntegerKernels<T>& k, int scaleFactor) {
     if (scaleFactor == 0) return {&k.sub, 0};
+    if (scaleFactor == 1) return {&k.subHalf, 1};
     if (scaleFactor < 0) return {&k.subLeft, leftShift<T>(scaleFactor)};
     return {scaleFactor <= kLargestFactor<T, R> ? &k.subRight : nullptr, scaleFactor};
   }
@@ -89,16 +91,16 @@ struct Div {
   // Division by 0 has its own result at every factor, so no factor is too large for the kernel.
   template <class T, RightOperand R>
   static Choice<T> choose(const IntegerKernels<T>& k, int scaleFactor) {
-    return {&k.divEven, scaleFactor};
+    return {scaleFactor < 0 ? &k.divEvenLeft : &k.divEven, 0};
   }
   static const BinaryForms<f32>& choose(const FloatKernels& k) { return k.div; }
 };
 
-// 2^-scaleFactor, exact. Beyond 2^40 either way every quotient of 16 bits saturates or rounds to 0.
+// 2^-scaleFactor, exact: an exponent and nothing else. Beyond 2^40 either way every quotient of 16 bits saturates or
+// rounds to 0.
 inline f32 divisionFactor(int scaleFactor) {
-  constexpr int kBeyond = 40;
-  const int n = std::clamp(scaleFactor, -kBeyond, kBeyond);
-  return n < 0 ? static_cast<f32>(s64{1} << -n) : 1.0f / static_cast<f32>(s64{1} << n);
+  constexpr int kBeyond = 40, kExponentBias = 127, kMantissaBits = 23;
+  return std::bit_cast<f32>((kExponentBias - std::clamp(scaleFactor, -kBeyond, kBeyond)) << kMantissaBits);
 }
 
 inline const IntegerKernels<u8>& kernelsOf(const BinaryKernels& k, u8) { return k.of8u; }
@@ -200,10 +202,9 @@ RnxStatus divideRounded(const T* src1, int src1Step, const T* src2, int src2Step
   const BinaryCall<T> call =
       planImages<L>(src2, src2Step, src1, src1Step, dst, dstStep, roi, divisionFactor(scaleFactor));
   const IntegerKernels<T>& k = kernels<T>(call.rows.bytesMoved);
-  return runImages<L>(roundMode == rnxRoundZero          ? k.divZero
-                      : roundMode == rnxRoundNearestEven ? k.divEven
-                                                         : k.divAway,
-                      call);
+  const BinaryForms<T>* const byMode[2][3] = {{&k.divZero, &k.divEven, &k.divAway},
+                                              {&k.divZeroLeft, &k.divEvenLeft, &k.divAwayLeft}};
+  return runImages<L>(*byMode[scaleFactor < 0][roundMode], call);
 }
 
 // ---- An image and a constant: a value for C1, otherwise an array with one value per channel that is used ----

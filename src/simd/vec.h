@@ -10,6 +10,7 @@
 #include "core/types.h"
 
 #define RNX_INLINE inline __attribute__((always_inline))
+#define RNX_INLINE_LAMBDA __attribute__((always_inline))
 
 // Intrinsics of the two widths share their names behind the prefix.
 #if RNX_VECTOR_BYTES == 32
@@ -44,8 +45,15 @@ struct Vec {
 
   static RNX_INLINE Vec of(Int r) { return {reinterpret_cast<Raw>(r)}; }
   static RNX_INLINE Vec zero() { return {Raw{}}; }
-  // Minus zero: plus zero would be an addition, for it changes -0.0.
-  static RNX_INLINE Vec splat(T v) { return {v - Raw{}}; }
+  // Not `Raw{} + v` for floats: that turns -0.0 into 0.0.
+  static RNX_INLINE Vec splat(T v) {
+    if constexpr (std::is_same_v<T, float>)
+      return {RNX_MM(set1_ps)(v)};
+    else if constexpr (std::is_same_v<T, double>)
+      return {RNX_MM(set1_pd)(v)};
+    else
+      return {Raw{} + v};
+  }
   static RNX_INLINE Vec load(const T* p) {
     return {reinterpret_cast<Raw>(RNX_MM(loadu_ps)(reinterpret_cast<const float*>(p)))};
   }
