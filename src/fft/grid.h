@@ -51,10 +51,7 @@ public:
     x.re.store(p + reAt);
     x.im.store(p + imAt);
   }
-  RNX_INLINE Complex<V> loadOutput(const Transform<V>& transform, s64 k) const {
-    const f32* p = transform.output(tile, k);
-    return {V::load(p + reAt), V::load(p + imAt)};
-  }
+  RNX_INLINE Outputs<V> outputsOf(const Transform<V>& transform) const { return transform.outputs(tile, reAt, imAt); }
 
   // ---- Strips ----
 
@@ -62,12 +59,16 @@ public:
   RNX_INLINE s64 stripStart(s64 strip) const { return std::min(strip * L, width - L); }
   RNX_INLINE f32* stripRow(s64 strip, s64 row) const { return strips + (strip * height + row) * kElement<V>; }
 
-  // Columns [4 group, 4 group + 4) of a strip in the order of its lanes, from vectors whose lanes are rows.
-  template <class Row>
-  RNX_INLINE void storeGroup(s64 strip, int group, Row row, V (&re)[G], V (&im)[G]) const {
-    storeColumns([&](int r) RNX_LAMBDA { return stripRow(strip, row(r)) + group * G; }, re);
-    storeColumns([&](int r) RNX_LAMBDA { return stripRow(strip, row(r)) + L + group * G; }, im);
+  // Columns [4 group, 4 group + 4) of a strip in the order of its lanes, from vectors whose lanes are the rows from
+  // `first`, in the order rowOf.
+  template <class RowOf>
+  RNX_INLINE void storeGroup(s64 strip, int group, s64 first, RowOf rowOf, V (&re)[G], V (&im)[G]) const {
+    f32* base = stripRow(strip, first) + group * G;
+    storeColumns([&](int r) RNX_LAMBDA { return base + rowOf(r) * kElement<V>; }, re);
+    storeColumns([&](int r) RNX_LAMBDA { return base + L + rowOf(r) * kElement<V>; }, im);
   }
+  static RNX_INLINE s64 inOrder(int r) { return r; }
+  static RNX_INLINE s64 inPairs(int r) { return pairedElement<V>(r); }
 
   // ---- Rows of complex images ----
 
@@ -83,22 +84,23 @@ public:
   }
 
   void complexRows(f32 scale) const {
+    f32 *const re = tile + reAt, *const im = tile + imAt;
     const V factor = V::splat(scale);
+    const Outputs<V> outputs = rows.outputs(tile);
     for (s64 row = 0; row < height; row += L) {
       const s64 first = std::min(row, height - L);
       loadRows(core::at(call.src, first * call.srcStep), call.srcStep, 2 * width,
-               [&](s64 f, V v) RNX_LAMBDA { v.store(tile + (f >> 1) * kElement<V> + ((f & 1) != 0 ? imAt : reAt)); });
+               [&](s64 f, V v) RNX_LAMBDA { v.store(((f & 1) != 0 ? im : re) + (f >> 1) * kElement<V>); });
       rows.run(tile, tile);
-      forEachGroup([&](s64 strip, s64 start, int group) RNX_LAMBDA {
+      forEachGroup([&](s64 strip, s64 start, auto group) RNX_LAMBDA {
         V re[G], im[G];
         unroll<0, G>([&](auto index) RNX_LAMBDA {
           constexpr int i = decltype(index)::value;
-          const f32* p = rows.output(tile, start + pairedElement<V>(group * G + i));
-          re[i] = V::load(p) * factor;
-          im[i] = V::load(p + L) * factor;
+          const Complex<V> x = outputs[start + pairedElement<V>(group.value * G + i)] * factor;
+          re[i] = x.re;
+          im[i] = x.im;
         });
-        storeGroup(
-            strip, group, [&](int r) RNX_LAMBDA { return first + r; }, re, im);
+        storeGroup(strip, group.value, first, inOrder, re, im);
       });
     }
   }
@@ -108,7 +110,7 @@ public:
   RNX_INLINE void forEachGroup(F f) const {
     for (s64 strip = 0; strip < stripCount(); ++strip) {
       const s64 start = stripStart(strip);
-      for (int group = 0; group < L / G; ++group) f(strip, start, group);
+      unroll<0, L / G>([&](auto group) RNX_LAMBDA { f(strip, start, group); });
     }
   }
 
@@ -116,10 +118,12 @@ public:
   template <class Store>
   RNX_INLINE void storeColumnsOf(f32 scale, Store store) const {
     const V factor = V::splat(scale);
+    const Outputs<V> outputs = outputsOf(columns);
+    const s64 count = height;
     for (s64 strip = 0; strip < stripCount(); ++strip) {
       columns.run(stripRow(strip, 0), tile);
       const s64 start = stripStart(strip);
-      for (s64 k = 0; k < height; ++k) store(k, start, loadOutput(columns, k) * factor);
+      for (s64 k = 0; k < count; ++k) store(k, start, outputs[k] * factor);
     }
   }
 
@@ -148,22 +152,22 @@ public:
   //   X_k = sum over j2 of w_height^(j2 k2) w^(j2 k1) * sum over j1 of w_width^(j1 k1) x_j
   // The lanes of the inner sum are neighbours j2, those of the outer one neighbours k1.
   void splitLine(const Line& from, const Line& to, f32 scale) const {
+    const Outputs<V> outputs = rows.outputs(tile);
     for (s64 j2 = 0; j2 < height; j2 += L) {
       const s64 first = std::min(j2, height - L);
       for (s64 j1 = 0; j1 < width; ++j1) storeInput(j1, loadLine(from, j1 * height + first));
       rows.run(tile, tile);
       const f32* twiddles = call.spec->table<f32>(call.spec->lineTwiddles) + 2 * first;
-      forEachGroup([&](s64 strip, s64 start, int group) RNX_LAMBDA {
+      forEachGroup([&](s64 strip, s64 start, auto group) RNX_LAMBDA {
         V re[G], im[G];
         unroll<0, G>([&](auto index) RNX_LAMBDA {
           constexpr int i = decltype(index)::value;
-          const s64 k1 = start + pairedElement<V>(group * G + i);
-          const Complex<V> x = loadElement<V>(rows.output(tile, k1)) * loadPairs<V>(twiddles + 2 * k1 * height);
+          const s64 k1 = start + pairedElement<V>(group.value * G + i);
+          const Complex<V> x = outputs[k1] * loadPairs<V>(twiddles + 2 * k1 * height);
           re[i] = x.re;
           im[i] = x.im;
         });
-        storeGroup(
-            strip, group, [&](int r) RNX_LAMBDA { return first + pairedElement<V>(r); }, re, im);
+        storeGroup(strip, group.value, first, inPairs, re, im);
       });
     }
     storeColumnsOf(scale, [&](s64 k2, s64 k1, Complex<V> x) RNX_LAMBDA { storeLine(to, k2 * width + k1, x); });
@@ -172,7 +176,8 @@ public:
   void shortLine(const Line& from, const Line& to, f32 scale) const {
     for (s64 j = 0; j < width; ++j) storeInput(j, loadLine(from, j));
     rows.run(tile, tile);
-    for (s64 k = 0; k < width; ++k) storeLine(to, k, loadOutput(rows, k) * V::splat(scale));
+    const Outputs<V> outputs = outputsOf(rows);
+    for (s64 k = 0; k < width; ++k) storeLine(to, k, outputs[k] * V::splat(scale));
   }
 
   const TransformCall& call;

@@ -23,17 +23,18 @@ public:
   // ---- Forward ----
 
   void forwardRows(f32 scale) const {
+    const Outputs<V> outputs = rows.outputs(tile);
     for (s64 row = 0; row < height; row += 2 * L) {
       const s64 first = std::min(row, height - 2 * L);
       loadRealRows(first, 0);
       loadRealRows(first + L, L);
       rows.run(tile, tile);
-      this->forEachGroup([&](s64 strip, s64 start, int group) RNX_LAMBDA {
+      this->forEachGroup([&](s64 strip, s64 start, auto group) RNX_LAMBDA {
         V re[G], im[G], reB[G], imB[G];
         unroll<0, G>([&](auto index) RNX_LAMBDA {
           constexpr int i = decltype(index)::value;
-          const s64 k = start + pairedElement<V>(group * G + i);
-          const Complex<V> z = loadElement<V>(rows.output(tile, k));
+          const s64 k = start + pairedElement<V>(group.value * G + i);
+          const Complex<V> z = outputs[k];
           if (k == 0) {
             const V factor = V::splat(scale);
             const Complex<V> last = middleColumn();
@@ -41,25 +42,24 @@ public:
             reB[i] = z.im * factor, imB[i] = last.im * factor;
           } else {
             const V half = V::splat(0.5f * scale);
-            const Complex<V> y = loadElement<V>(rows.output(tile, imageWidth - k));
+            const Complex<V> y = outputs[imageWidth - k];
             re[i] = (z.re + y.re) * half, im[i] = (z.im - y.im) * half;
             reB[i] = (z.im + y.im) * half, imB[i] = (y.re - z.re) * half;
           }
         });
-        this->storeGroup(
-            strip, group, [&](int r) RNX_LAMBDA { return first + r; }, re, im);
-        this->storeGroup(
-            strip, group, [&](int r) RNX_LAMBDA { return first + L + r; }, reB, imB);
+        this->storeGroup(strip, group.value, first, this->inOrder, re, im);
+        this->storeGroup(strip, group.value, first + L, this->inOrder, reB, imB);
       });
     }
   }
 
   void forwardColumns(f32 scale) const {
     const V factor = V::splat(scale);
+    const Outputs<V> outputs = columns.outputs(tile);
     for (s64 strip = 0; strip < this->stripCount(); ++strip) {
       columns.run(this->stripRow(strip, 0), tile);
       const s64 start = this->stripStart(strip);
-      for (s64 k = 0; k < height; ++k) storePacked(k, start, loadElement<V>(columns.output(tile, k)) * factor);
+      for (s64 k = 0; k < height; ++k) storePacked(k, start, outputs[k] * factor);
       if (start == 0) storeOuterColumns(scale);
     }
   }
@@ -68,13 +68,14 @@ public:
 
   void inverseColumns(f32 scale) const {
     const V factor = V::splat(scale);
+    const Outputs<V> outputs = this->outputsOf(columns);
     for (s64 strip = 0; strip < this->stripCount(); ++strip) {
       const s64 start = this->stripStart(strip);
       for (s64 l = 0; l < height; ++l) this->storeInput(l, loadPacked(l, start));
       if (start == 0) loadOuterColumns();
       columns.run(tile, tile);
       for (s64 k = 0; k < height; ++k) {
-        storeElement(this->stripRow(strip, k), this->loadOutput(columns, k) * factor);
+        storeElement(this->stripRow(strip, k), outputs[k] * factor);
       }
     }
   }
@@ -82,13 +83,13 @@ public:
   void inverseRows(f32 scale) const {
     for (s64 row = 0; row < height; row += 2 * L) {
       const s64 first = std::min(row, height - 2 * L);
-      this->forEachGroup([&](s64 strip, s64 start, int group) RNX_LAMBDA {
+      this->forEachGroup([&](s64 strip, s64 start, auto group) RNX_LAMBDA {
         V re[G], im[G], reB[G], imB[G];
-        loadGroup(strip, group, first, re, im);
-        loadGroup(strip, group, first + L, reB, imB);
+        loadGroup(strip, group.value, first, re, im);
+        loadGroup(strip, group.value, first + L, reB, imB);
         unroll<0, G>([&](auto index) RNX_LAMBDA {
           constexpr int i = decltype(index)::value;
-          const s64 k = start + pairedElement<V>(group * G + i);
+          const s64 k = start + pairedElement<V>(group.value * G + i);
           if (k == 0) {
             this->storeInput(0, Complex<V>{re[i], reB[i]});
             if (imageWidth % 2 == 0) this->storeInput(imageWidth / 2, Complex<V>{im[i], imB[i]});
@@ -123,12 +124,12 @@ private:
 
   void storeRealRows(s64 first, s64 part, f32 scale) const {
     const V factor = V::splat(scale);
+    const Outputs<V> outputs = rows.outputs(tile, part, part);
     f32* top = core::at(call.dst, first * call.dstStep);
     for (s64 x = 0; x < imageWidth; x += G) {
       const s64 at = std::min(x, imageWidth - G);
       V column[G];
-      unroll<0, G>([&](auto i)
-                       RNX_LAMBDA { column[i.value] = V::load(rows.output(tile, at + i.value) + part) * factor; });
+      unroll<0, G>([&](auto i) RNX_LAMBDA { column[i.value] = outputs[at + i.value].re * factor; });
       if (call.channels == 1) {
         storeColumns([&](int r) RNX_LAMBDA { return core::at(top, r * call.dstStep, at); }, column);
         continue;
@@ -145,12 +146,13 @@ private:
 
   RNX_INLINE Complex<V> middleColumn() const {
     if (imageWidth % 2 != 0) return {V::splat(0.0f), V::splat(0.0f)};
-    return loadElement<V>(rows.output(tile, imageWidth / 2));
+    return rows.outputs(tile)[imageWidth / 2];
   }
 
   RNX_INLINE void loadGroup(s64 strip, int group, s64 first, V (&re)[G], V (&im)[G]) const {
-    loadColumns([&](int r) RNX_LAMBDA { return this->stripRow(strip, first + r) + group * G; }, re);
-    loadColumns([&](int r) RNX_LAMBDA { return this->stripRow(strip, first + r) + L + group * G; }, im);
+    const f32* base = this->stripRow(strip, first) + group * G;
+    loadColumns([&](int r) RNX_LAMBDA { return base + r * kElement<V>; }, re);
+    loadColumns([&](int r) RNX_LAMBDA { return base + L + r * kElement<V>; }, im);
   }
 
   // ---- Rows of the packed spectrum: number k of a row, k at least 1, stands in columns 2 k - 1 and 2 k ----
@@ -205,10 +207,8 @@ private:
       write(outer(call.dst, call.dstStep, row, false), left);
       if (hasRight) write(outer(call.dst, call.dstStep, row, true), right);
     };
-    const auto z = [&](s64 l) RNX_LAMBDA {
-      const f32* p = columns.output(tile, l);
-      return fc32{p[0], p[L]};
-    };
+    const Outputs<V> outputs = columns.outputs(tile);
+    const auto z = [&](s64 l) RNX_LAMBDA { return outputs.first(l); };
     put(0, z(0).re * scale, z(0).im * scale);
     for (s64 l = 1; 2 * l < height; ++l) {
       const fc32 a = z(l), b = z(height - l);

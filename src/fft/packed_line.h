@@ -67,9 +67,10 @@ inline void packHalves(const TransformCall& call, const RealLine& src, f32* z) {
 inline void oddForward(const Grid<Single>& grid, const RealLine& src, const RealLine& dst, f32 scale) {
   for (s64 j = 0; j < src.length; ++j) grid.storeInput(j, Complex<Single>{{src.get(j)}, {0.0f}});
   grid.rows.run(grid.tile, grid.tile);
-  dst.put(0, grid.loadOutput(grid.rows, 0).re.raw * scale);
+  const Outputs<Single> outputs = grid.outputsOf(grid.rows);
+  dst.put(0, outputs[0].re.raw * scale);
   for (s64 k = 1; 2 * k < src.length; ++k) {
-    const Complex<Single> x = grid.loadOutput(grid.rows, k);
+    const Complex<Single> x = outputs[k];
     dst.putNumber(k, x.re.raw * scale, x.im.raw * scale);
   }
 }
@@ -82,7 +83,8 @@ inline void oddInverse(const Grid<Single>& grid, const RealLine& src, const Real
     grid.storeInput(src.length - k, Complex<Single>{{x.re}, {-x.im}});
   }
   grid.rows.run(grid.tile, grid.tile);
-  for (s64 j = 0; j < src.length; ++j) dst.put(j, grid.loadOutput(grid.rows, j).re.raw * scale);
+  const Outputs<Single> outputs = grid.outputsOf(grid.rows);
+  for (s64 j = 0; j < src.length; ++j) dst.put(j, outputs[j].re.raw * scale);
 }
 
 }  // namespace

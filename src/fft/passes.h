@@ -91,6 +91,23 @@ inline constexpr PassesOf<V> kPasses[14] = {{},
                                             {},
                                             kPassesOf<V, 13>};
 
+// The outputs of a transform in natural order, with real and imaginary parts where the caller says.
+template <class V>
+struct Outputs {
+  const f32 *re, *im;
+  const s32* positions;
+
+  RNX_INLINE Complex<V> operator[](s64 k) const {
+    const s64 at = positions[k] * kElement<V>;
+    return {V::load(re + at), V::load(im + at)};
+  }
+  // Of lane 0.
+  RNX_INLINE fc32 first(s64 k) const {
+    const s64 at = positions[k] * kElement<V>;
+    return {re[at], im[at]};
+  }
+};
+
 template <class V>
 class Transform {
 public:
@@ -108,8 +125,10 @@ public:
     }
   }
 
-  // Where output k is, after run().
-  RNX_INLINE f32* output(f32* tile, s64 k) const { return tile + positions_[k] * kElement<V>; }
+  // What run() left in a tile. A view of its own: loops that store vectors keep it in registers.
+  RNX_INLINE Outputs<V> outputs(const f32* tile, s64 reAt = 0, s64 imAt = V::kLanes) const {
+    return {tile + reAt, tile + imAt, positions_};
+  }
 
 private:
   static constexpr s64 kElementBytes = kElement<V> * s64{sizeof(f32)};

@@ -40,7 +40,7 @@ struct Radix {
   f32 cost;  // of one pass, per element; measured
 };
 
-constexpr Radix kRadices[] = {{13, 3.5f}, {11, 3.0f}, {8, 1.40f}, {7, 1.9f}, {6, 1.38f},
+constexpr Radix kRadices[] = {{13, 3.5f}, {11, 3.0f}, {8, 1.25f}, {7, 1.9f}, {6, 1.38f},
                               {5, 1.3f},  {4, 0.84f}, {3, 0.87f}, {2, 0.57f}};
 
 struct Factors {

@@ -33,8 +33,11 @@ void complexGrid(const TransformCall& call) {
   const Grid<V> grid(call);
   const Scale scale = scaleOf(call);
   grid.complexRows(scale.x);
-  grid.storeColumnsOf(scale.y, [&](s64 k, s64 start, Complex<V> x)
-                                   RNX_LAMBDA { storePairs(core::at(call.dst, k * call.dstStep, 2 * start), x); });
+  f32* const dst = call.dst;
+  const s64 step = call.dstStep;
+  const auto store = [=](s64 k, s64 start, Complex<V> x)
+                         RNX_LAMBDA { storePairs(core::at(dst, k * step, 2 * start), x); };
+  grid.storeColumnsOf(scale.y, store);
 }
 
 void complexToComplex(const TransformCall& call) {
