@@ -40,18 +40,12 @@ public:
         columns(*c.spec, c.spec->plans[c.spec->columnPlan]),
         strips(c.work),
         line(core::at(c.work, c.spec->stripBytes)),
-        tile(core::at(line, c.spec->lineBytes)),
-        reAt(c.inverse ? L : 0),
-        imAt(L - reAt) {}
+        tile(core::at(line, c.spec->lineBytes)) {}
 
-  // ---- Tile elements, with real and imaginary parts exchanged for inverse transforms ----
-
-  RNX_INLINE void storeInput(s64 j, Complex<V> x) const {
-    f32* p = tile + j * kElement<V>;
-    x.re.store(p + reAt);
-    x.im.store(p + imAt);
+  RNX_INLINE void storeInput(s64 j, Complex<V> x) const { storeElement(tile + j * kElement<V>, x); }
+  RNX_INLINE Outputs<V> outputsOf(const Transform<V>& transform) const {
+    return transform.outputs(tile, call.inverse ? Direction::kInverse : Direction::kForward);
   }
-  RNX_INLINE Outputs<V> outputsOf(const Transform<V>& transform) const { return transform.outputs(tile, reAt, imAt); }
 
   // ---- Strips ----
 
@@ -84,13 +78,13 @@ public:
   }
 
   void complexRows(f32 scale) const {
-    f32 *const re = tile + reAt, *const im = tile + imAt;
+    f32* const to = tile;
     const V factor = V::splat(scale);
-    const Outputs<V> outputs = rows.outputs(tile);
+    const Outputs<V> outputs = outputsOf(rows);
     for (s64 row = 0; row < height; row += L) {
       const s64 first = std::min(row, height - L);
       loadRows(core::at(call.src, first * call.srcStep), call.srcStep, 2 * width,
-               [&](s64 f, V v) RNX_LAMBDA { v.store(((f & 1) != 0 ? im : re) + (f >> 1) * kElement<V>); });
+               [&](s64 f, V v) RNX_LAMBDA { v.store(to + f * L); });
       rows.run(tile, tile);
       forEachGroup([&](s64 strip, s64 start, auto group) RNX_LAMBDA {
         V re[G], im[G];
@@ -149,10 +143,11 @@ public:
   }
 
   // A line of width * height numbers, by its factors: with j = height j1 + j2 and k = width k2 + k1,
-  //   X_k = sum over j2 of w_height^(j2 k2) w^(j2 k1) * sum over j1 of w_width^(j1 k1) x_j
+  //   X_k = sum over j2 of w_height^(j2 k2) w^(j2 k1) * sum over j1 of w_width^(j1 k1) x_j,   w_n = exp(-+2 pi i / n)
   // The lanes of the inner sum are neighbours j2, those of the outer one neighbours k1.
   void splitLine(const Line& from, const Line& to, f32 scale) const {
-    const Outputs<V> outputs = rows.outputs(tile);
+    const Outputs<V> outputs = outputsOf(rows);
+    const V sign = V::splat(call.inverse ? -1.0f : 1.0f);
     for (s64 j2 = 0; j2 < height; j2 += L) {
       const s64 first = std::min(j2, height - L);
       for (s64 j1 = 0; j1 < width; ++j1) storeInput(j1, loadLine(from, j1 * height + first));
@@ -163,7 +158,8 @@ public:
         unroll<0, G>([&](auto index) RNX_LAMBDA {
           constexpr int i = decltype(index)::value;
           const s64 k1 = start + pairedElement<V>(group.value * G + i);
-          const Complex<V> x = outputs[k1] * loadPairs<V>(twiddles + 2 * k1 * height);
+          const Complex<V> w = loadPairs<V>(twiddles + 2 * k1 * height);
+          const Complex<V> x = outputs[k1] * Complex<V>{w.re, w.im * sign};
           re[i] = x.re;
           im[i] = x.im;
         });
@@ -186,7 +182,6 @@ public:
   f32* const strips;
   f32* const line;
   f32* const tile;
-  const s64 reAt, imAt;
 };
 
 }  // namespace

@@ -14,7 +14,7 @@ namespace {
 template <class V>
 class PackedGrid : public Grid<V> {
   using Base = Grid<V>;
-  using Base::call, Base::tile, Base::rows, Base::columns, Base::height, Base::reAt, Base::imAt;
+  using Base::call, Base::tile, Base::rows, Base::columns, Base::height;
   using Base::L, Base::G;
 
 public:
@@ -100,8 +100,8 @@ public:
         });
       });
       rows.run(tile, tile);
-      storeRealRows(first, reAt, scale);
-      storeRealRows(first + L, imAt, scale);
+      storeRealRows(first, 0, scale);
+      storeRealRows(first + L, L, scale);
     }
   }
 
@@ -124,12 +124,12 @@ private:
 
   void storeRealRows(s64 first, s64 part, f32 scale) const {
     const V factor = V::splat(scale);
-    const Outputs<V> outputs = rows.outputs(tile, part, part);
+    const Outputs<V> outputs = this->outputsOf(rows);
     f32* top = core::at(call.dst, first * call.dstStep);
     for (s64 x = 0; x < imageWidth; x += G) {
       const s64 at = std::min(x, imageWidth - G);
       V column[G];
-      unroll<0, G>([&](auto i) RNX_LAMBDA { column[i.value] = outputs[at + i.value].re * factor; });
+      unroll<0, G>([&](auto i) RNX_LAMBDA { column[i.value] = V::load(outputs.at(at + i.value) + part) * factor; });
       if (call.channels == 1) {
         storeColumns([&](int r) RNX_LAMBDA { return core::at(top, r * call.dstStep, at); }, column);
         continue;
@@ -208,7 +208,7 @@ private:
       if (hasRight) write(outer(call.dst, call.dstStep, row, true), right);
     };
     const Outputs<V> outputs = columns.outputs(tile);
-    const auto z = [&](s64 l) RNX_LAMBDA { return outputs.first(l); };
+    const auto z = [&](s64 l) RNX_LAMBDA { return fc32{outputs.at(l)[0], outputs.at(l)[L]}; };
     put(0, z(0).re * scale, z(0).im * scale);
     for (s64 l = 1; 2 * l < height; ++l) {
       const fc32 a = z(l), b = z(height - l);
@@ -225,8 +225,8 @@ private:
     const auto right = [&](s64 row)
                            RNX_LAMBDA { return hasRight ? read<f32>(outer(src, call.srcStep, row, true)) : 0.0f; };
     const auto put = [&](s64 l, f32 re, f32 im) RNX_LAMBDA {
-      tile[l * kElement<V> + reAt] = re;
-      tile[l * kElement<V> + imAt] = im;
+      tile[l * kElement<V>] = re;
+      tile[l * kElement<V> + L] = im;
     };
     put(0, left(0), right(0));
     for (s64 l = 1; 2 * l < height; ++l) {

@@ -1,5 +1,5 @@
-// The one-dimensional transform of a tile: as many sequences side by side as V has lanes, forward. An inverse transform
-// is a forward one with real and imaginary parts exchanged on the way in and out, which the callers do.
+// The one-dimensional transform of a tile: as many sequences side by side as V has lanes. The inverse transform is the
+// forward one, read in opposite order.
 //
 // Decimation in frequency, in place, one radix per pass: a block of m elements becomes radix blocks of m / radix. The
 // outputs end in the order of Plan::positions.
@@ -91,21 +91,18 @@ inline constexpr PassesOf<V> kPasses[14] = {{},
                                             {},
                                             kPassesOf<V, 13>};
 
-// The outputs of a transform in natural order, with real and imaginary parts where the caller says.
+enum class Direction { kForward, kInverse };
+
+// The outputs of a transform in natural order. Output k of the inverse transform is output length - k of the forward
+// one.
 template <class V>
 struct Outputs {
-  const f32 *re, *im;
+  const f32* tile;
   const s32* positions;
+  s64 turn;
 
-  RNX_INLINE Complex<V> operator[](s64 k) const {
-    const s64 at = positions[k] * kElement<V>;
-    return {V::load(re + at), V::load(im + at)};
-  }
-  // Of lane 0.
-  RNX_INLINE fc32 first(s64 k) const {
-    const s64 at = positions[k] * kElement<V>;
-    return {re[at], im[at]};
-  }
+  RNX_INLINE const f32* at(s64 k) const { return tile + positions[k * turn] * kElement<V>; }
+  RNX_INLINE Complex<V> operator[](s64 k) const { return loadElement<V>(at(k)); }
 };
 
 template <class V>
@@ -126,8 +123,9 @@ public:
   }
 
   // What run() left in a tile. A view of its own: loops that store vectors keep it in registers.
-  RNX_INLINE Outputs<V> outputs(const f32* tile, s64 reAt = 0, s64 imAt = V::kLanes) const {
-    return {tile + reAt, tile + imAt, positions_};
+  RNX_INLINE Outputs<V> outputs(const f32* tile, Direction direction = Direction::kForward) const {
+    const bool forward = direction == Direction::kForward;
+    return {tile, positions_ + (forward ? 0 : plan_.length), forward ? 1 : -1};
   }
 
 private:

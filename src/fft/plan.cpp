@@ -202,7 +202,7 @@ Plan makePlan(s64 length, Block& block, void* init) {
     blockSize /= radix;
     plan.twiddles[pass] = block.reserve(blockSize > 1 ? blockSize * (radix - 1) * s64{sizeof(fc32)} : 0);
   }
-  plan.positions = block.reserve(length * s64{sizeof(s32)});
+  plan.positions = block.reserve((length + 1) * s64{sizeof(s32)});
   if (!isSmooth) {
     plan.chirp = block.reserve(length * s64{sizeof(fc32)});
     plan.filter = block.reserve(size * s64{sizeof(fc32)});
@@ -212,6 +212,7 @@ Plan makePlan(s64 length, Block& block, void* init) {
     // The way back of a convolution restores the natural order.
     s32* positions = block.table<s32>(plan.positions);
     for (s64 k = 0; k < length; ++k) positions[k] = static_cast<s32>(isSmooth ? positionOf(plan, k) : k);
+    positions[length] = positions[0];
     if (!isSmooth) writeChirp(plan, block, init);
   }
   return plan;

@@ -17,7 +17,7 @@ struct Plan {
   s32 passCount;
   s32 radix[kMaxPasses];
   u32 twiddles[kMaxPasses];  // offset per pass: factors of outputs 1 ... radix - 1, for each butterfly of a block
-  u32 positions;             // s32 per output: where the passes leave it
+  u32 positions;             // s32 for outputs 0 ... length, where the passes leave them; the last is the first again
   u32 chirp;                 // c_j, or 0 where the length needs none
   u32 filter;                // transform of the conjugate chirp over size, in the order of the passes
 };
