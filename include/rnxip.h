@@ -5,6 +5,7 @@
 
 #include "rnxip/types.h"
 
+#include "rnxip/alpha.h"
 #include "rnxip/arith.h"
 #include "rnxip/core.h"
 #include "rnxip/data.h"
