@@ -1,0 +1,124 @@
+// The sums of products of the linear filter: two result rows from a window of rows.
+//
+// A block is four vectors of each of the two rows. Its eight sums are independent chains of additions, which hides
+// their latency, and a vector of pixels that is loaded once serves both rows; loads, most of them unaligned, would
+// otherwise be what limits the loop. Within a sum of floats the products are added in the order of the kernel.
+#pragma once
+
+#include <cstring>
+
+#include "filter/filter_spec.h"
+#include "simd/order.h"
+
+namespace rnx::filter {
+namespace {
+
+using namespace simd;
+
+// The next column of the kernel lies `pixel` elements further in a row.
+struct SumShape {
+  s64 kernelWidth, kernelHeight;
+  s64 pixel;
+  s64 elements;  // of a result row
+};
+
+template <class V>
+struct Block {
+  static constexpr int kElements = 4 * Vec<V>::kLanes;
+
+  Vec<V> a = Vec<V>::zero(), b = Vec<V>::zero(), c = Vec<V>::zero(), d = Vec<V>::zero();
+
+  RNX_INLINE void store(V* out) const {
+    constexpr int L = Vec<V>::kLanes;
+    a.store(out), b.store(out + L), c.store(out + 2 * L), d.store(out + 3 * L);
+  }
+};
+
+// Calls block(x) for blocks that cover [0, n): the last one ends at n, and a row shorter than a block is one whole
+// block.
+template <int Elements, class F>
+RNX_INLINE void forEachBlock(s64 n, F block) {
+  for (s64 x = 0;; x += Elements) {
+    if (x + Elements > n && n >= Elements) x = n - Elements;
+    block(x);
+    if (x + Elements >= n) return;
+  }
+}
+
+// ---- Floating point ----
+
+// One row of the kernel, for the first and the second result row: they meet an image row with different kernel rows.
+template <bool First, bool Second, class V, class Unit>
+RNX_INLINE void addRow(Block<V>& first, Block<V>& second, const Unit* p, const V* kFirst, const V* kSecond,
+                       const SumShape& shape) {
+  constexpr int L = Vec<V>::kLanes;
+  for (s64 i = 0; i < shape.kernelWidth; ++i, p += shape.pixel) {
+    const Vec<V> k0 = Vec<V>::splat(First ? kFirst[i] : V(0)), k1 = Vec<V>::splat(Second ? kSecond[i] : V(0));
+    const auto add = [&](Vec<V> & sum0, Vec<V> & sum1, const Unit* at) __attribute__((always_inline)) {
+      const Vec<V> pixels = loadAs<V>(at);
+      if constexpr (First) sum0 = sum0 + pixels * k0;
+      if constexpr (Second) sum1 = sum1 + pixels * k1;
+    };
+    add(first.a, second.a, p);
+    add(first.b, second.b, p + L);
+    add(first.c, second.c, p + 2 * L);
+    add(first.d, second.d, p + 3 * L);
+  }
+}
+
+// rows: kernelHeight + 1 rows. The first sum takes the kernel's rows from rows[0] on, the second from rows[1] on.
+template <class V, class Unit>
+void sumRows(const Unit* const* rows, const V* kernel, const SumShape& shape, V* out0, V* out1) {
+  const s64 width = shape.kernelWidth, height = shape.kernelHeight;
+  forEachBlock<Block<V>::kElements>(
+      shape.elements, [&](s64 x) __attribute__((always_inline)) {
+        Block<V> first, second;
+        addRow<true, false>(first, second, rows[0] + x, kernel, kernel, shape);
+        for (s64 j = 1; j < height; ++j) {
+          const V* k = kernel + j * width;
+          addRow<true, true>(first, second, rows[j] + x, k, k - width, shape);
+        }
+        addRow<false, true>(first, second, rows[height] + x, kernel, kernel + (height - 1) * width, shape);
+        first.store(out0 + x);
+        second.store(out1 + x);
+      });
+}
+
+// ---- Integers in pairs of rows ----
+
+RNX_INLINE Vec<s32> splatPair(const s16 (&pair)[2]) {
+  s32 both;
+  std::memcpy(&both, pair, sizeof both);
+  return Vec<s32>::splat(both);
+}
+
+// pairs: rowPairs(kernelHeight) rows of interleaved pixels of two image rows.
+inline void sumPairs(const s32* const* pairs, const PairTaps* taps, const SumShape& shape, s32* out0, s32* out1) {
+  constexpr int L = Vec<s32>::kLanes;
+  const s64 count = rowPairs(shape.kernelHeight);
+  forEachBlock<Block<s32>::kElements>(
+      shape.elements, [&](s64 x) __attribute__((always_inline)) {
+        Block<s32> first, second;
+        const PairTaps* tap = taps;
+        for (s64 j = 0; j < count; ++j) {
+          const s32* p = pairs[j] + x;
+          for (s64 i = 0; i < shape.kernelWidth; ++i, ++tap, p += shape.pixel) {
+            const Vec<s32> k0 = splatPair(tap->first), k1 = splatPair(tap->second);
+            const auto add = [&](Vec<s32> & sum0, Vec<s32> & sum1, const s32* at) __attribute__((always_inline)) {
+              const Vec<s32> pixels = Vec<s32>::load(at);
+              sum0 = sum0 + multiplyPairs(pixels, k0);
+              sum1 = sum1 + multiplyPairs(pixels, k1);
+            };
+            add(first.a, second.a, p);
+            add(first.b, second.b, p + L);
+            add(first.c, second.c, p + 2 * L);
+            add(first.d, second.d, p + 3 * L);
+          }
+        }
+        first.store(out0 + x);
+        second.store(out1 + x);
+      });
+}
+
+}  // namespace
+}  // namespace rnx::filter
