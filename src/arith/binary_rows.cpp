@@ -1,4 +1,6 @@
 // Row kernels of Add, Sub, Mul and Div. A kernel is a functor of two vectors in the loop of simd/rows.h.
+#include <algorithm>
+
 #include "arith/binary_kernels.h"
 #include "simd/convert.h"
 #include "simd/rows.h"
@@ -47,21 +49,24 @@ struct Mul {
 
 // ---- Scaling of exact results; what comes out only needs the saturation of narrow() ----
 
-// v / 2^n for n above 0, half to even. Signed lanes have headroom for the half: 8-bit sums shift by at most 9, sums of
-// 16 bits by at most 17, and a product of two 16s is at most 2^30 and shifts by at most 30.
+// v / 2^n for n above 0, half to even: (v + half) >> n, less 1 where v + half is an odd multiple of 2^n, which is a tie
+// that went up to an odd value. Signed lanes have headroom for the half: 8-bit sums shift by at most 9, sums of 16 bits
+// by at most 17, and a product of two 16s is at most 2^30 and shifts by at most 30.
 template <class W>
 class Right {
 public:
-  explicit Right(int n) : n_(n), belowHalf_(Vec<W>::splat(static_cast<W>((W(1) << (n - 1)) - 1))) {}
+  explicit Right(int n)
+      : n_(shiftCount(n)),
+        half_(Vec<W>::splat(static_cast<W>(W(1) << (n - 1)))),
+        step_(Vec<W>::splat(static_cast<W>(u64{1} << n))),
+        below_(Vec<W>::splat(static_cast<W>((u64{2} << n) - 1))) {}
 
-  RNX_INLINE Vec<W> operator()(Vec<W> v) const {
-    const Vec<W> odd = shiftRight(v, n_) & Vec<W>::splat(1);
-    return shiftRight(v + belowHalf_ + odd, n_);
-  }
+  RNX_INLINE Vec<W> operator()(Vec<W> v) const { return ofSumWithHalf(v + half_); }
+  RNX_INLINE Vec<W> ofSumWithHalf(Vec<W> u) const { return shiftRight(u, n_) + equal(u & below_, step_); }
 
 private:
-  int n_;
-  Vec<W> belowHalf_;
+  ShiftCount n_;
+  Vec<W> half_, step_, below_;
 };
 
 // Unsigned products may fill the lane: the quotient is incremented where the rest is above half, or half and the
@@ -71,7 +76,7 @@ requires std::is_unsigned_v<W>
 class Right<W> {
 public:
   explicit Right(int n)
-      : n_(n),
+      : n_(shiftCount(n)),
         restBits_(Vec<W>::splat(static_cast<W>((u64{1} << n) - 1))),
         aboveHalf_(Vec<W>::splat(static_cast<W>((u64{1} << (n - 1)) + 1))) {}
 
@@ -83,7 +88,7 @@ public:
   }
 
 private:
-  int n_;
+  ShiftCount n_;
   Vec<W> restBits_, aboveHalf_;
 };
 
@@ -92,7 +97,7 @@ template <class W, class T>
 class Left {
 public:
   explicit Left(int n)
-      : n_(n),
+      : n_(shiftCount(n)),
         low_(Vec<W>::splat(static_cast<W>((kMin<T> >> n) - 1))),
         high_(Vec<W>::splat(static_cast<W>((kMax<T> >> n) + 1))) {}
 
@@ -102,7 +107,7 @@ public:
   }
 
 private:
-  int n_;
+  ShiftCount n_;
   Vec<W> low_, high_;
 };
 
@@ -156,68 +161,187 @@ using ScaledRight = Scaled<T, Op, Right>;
 template <class T, class Op>
 using ScaledLeft = Scaled<T, Op, Left, T>;
 
+// ---- 16s shifted right, in fewer steps than through the wide lanes ----
+
+// floor(sum / 2) and the bit lost say all about a sum of 17 bits, in 16-bit lanes. Averages are those of unsigned
+// values, so values are moved by 2^15: average(a, b) rounds up, and average(a, ~b) is floor((a - b) / 2) + 2^15.
+struct HalfOfSum {
+  static RNX_INLINE Vec<u16> moved(Vec<s16> a, Vec<s16> b, Vec<s16> lost) {
+    const Vec<s16> bias = Vec<s16>::splat(INT16_MIN);
+    return average((a ^ bias).as<u16>(), (b ^ bias).as<u16>()) - lost.as<u16>();
+  }
+};
+struct HalfOfDifference {
+  static RNX_INLINE Vec<u16> moved(Vec<s16> a, Vec<s16> b, Vec<s16>) {
+    return average((a ^ Vec<s16>::splat(INT16_MIN)).as<u16>(), (b ^ Vec<s16>::splat(INT16_MAX)).as<u16>());
+  }
+};
+
+// With h = floor(sum / 2) and n = scaleFactor - 1 from 1 to 15:
+//   (h + 2^(n-1) - 1 + odd) >> n,  odd = (bit n of h) or (bit lost)
+// where the first halving of the shift is one more average, which cannot overflow.
+template <class Half>
+class SumRight : public NoDivision<s16> {
+public:
+  explicit SumRight(const BinaryCall<s16>& call)
+      : NoDivision(call),
+        n_(shiftCount(call.shift - 1)),
+        rest_(shiftCount(call.shift - 2)),
+        addend_(Vec<s16>::splat(static_cast<s16>((1 << (call.shift - 2)) - 2 + INT16_MIN))) {}
+
+  RNX_INLINE Vec<s16> operator()(Vec<s16> a, Vec<s16> b) const {
+    const Vec<s16> one = Vec<s16>::splat(1), bias = Vec<s16>::splat(INT16_MIN);
+    const Vec<s16> lost = (a ^ b) & one;
+    const Vec<u16> half = Half::moved(a, b, lost);
+    const Vec<s16> odd = (shiftRight(half.template as<s16>() ^ bias, n_) | lost) & one;
+    return shiftRight(average(half, (addend_ + odd).as<u16>()).template as<s16>() ^ bias, rest_);
+  }
+
+private:
+  ShiftCount n_, rest_;
+  Vec<s16> addend_;
+};
+
+// A sum of two products takes the product and the half in one step: a * b + p * q with p * q = half.
+class ProductRight : public NoDivision<s16> {
+public:
+  explicit ProductRight(const BinaryCall<s16>& call)
+      : NoDivision(call),
+        right_(call.shift),
+        p_(Vec<s16>::splat(static_cast<s16>(-(1 << std::min(call.shift - 1, 15))))),
+        q_(Vec<s16>::splat(static_cast<s16>(-(1 << std::max(call.shift - 16, 0))))) {}
+
+  RNX_INLINE Vec<s16> operator()(Vec<s16> a, Vec<s16> b) const {
+    const Pair<s32> withHalf = addProducts(a, b, p_, q_);
+    return narrow<s16>(Pair<s32>{right_.ofSumWithHalf(withHalf.lo), right_.ofSumWithHalf(withHalf.hi)});
+  }
+
+private:
+  Right<s32> right_;
+  Vec<s16> p_, q_;
+};
+
 // ---- Division ----
 
-// The quotient is formed in floating point, scaled by a power of two, then rounded once. That is exact: a quotient of
-// m-bit integers that is not a tie keeps a relative distance of 2^-(2m+1) from every tie (2^-17 for 8 bits, 2^-33 for
-// 16 bits), which the 2^-24 of single and the 2^-53 of double precision resolve.
+// The quotient is formed in floating point, scaled by a power of two, then rounded once. It must not fall on a tie that
+// the exact quotient only comes near to. A quotient x / d of integers that is not a tie keeps a distance of 1 / (2d)
+// from every tie, which is 1 / (2x) of itself. Single precision, with its 2^-24, therefore serves dividends below 2^23:
+// 8u always, as x is below 2^16 where the result does not saturate, and 16 bits for scale factors from -6.
+// Below that, where the dividend is scaled up, 16 bits need double precision.
+template <class T>
+using ScaledUp = std::conditional_t<sizeof(T) == 1, f32, f64>;
+
 template <class Rounding, class F>
 RNX_INLINE Vec<F> quotient(Vec<F> a, Vec<F> b, Vec<F> factor, Vec<F> low, Vec<F> high) {
   return min(max(Rounding::round(a * factor / b), low), high);
 }
 
-template <class T, class Rounding, class Channels>
+// What surrounds the quotient: divisors of 0 are replaced by 1, their results by the division rule.
+template <class T, class Channels>
+class ZeroDivisors {
+public:
+  RNX_INLINE Vec<T> replaced(Vec<T> b) {
+    zero_ = equal(b, Vec<T>::zero());
+    met_ = met_ | Channels::merge(zero_.template as<T>(), Vec<T>::zero());
+    return b - zero_.template as<T>();  // all ones are -1
+  }
+
+  // The largest value for a positive dividend, the smallest for a negative one, 0 for 0.
+  RNX_INLINE Vec<T> result(Vec<T> a, Vec<T> quotient) const {
+    Vec<T> byZero = ~equal(a, Vec<T>::zero()).template as<T>();  // the largest unsigned value
+    if constexpr (std::is_signed_v<T>) {
+      byZero = (greater(a, Vec<T>::zero()) & Vec<T>::splat(kMax<T>)) | (a & Vec<T>::splat(kMin<T>));
+    }
+    return select(zero_, byZero, quotient);
+  }
+
+  bool met() const { return anySet(met_); }
+
+private:
+  Mask<T> zero_ = Mask<T>::zero();
+  Vec<T> met_ = Vec<T>::zero();
+};
+
+// Integers to lanes of F and back. f takes two vectors of F and gives the result as s32.
+template <class T, class F, class Quotient>
+RNX_INLINE Vec<T> divideLanes(Vec<T> a, Vec<T> b, Quotient f) {
+  const auto lane = [&](Vec<s32> x, Vec<s32> y) RNX_INLINE_LAMBDA {
+    if constexpr (std::is_same_v<F, f32>) {
+      return truncateToInt(f(toFloat(x), toFloat(y)));
+    } else {
+      const Pair<f64> u = toDouble(x), v = toDouble(y);
+      return truncateToInt(Pair<f64>{f(u.lo, v.lo), f(u.hi, v.hi)});
+    }
+  };
+  const auto lanes = [&](auto x, auto y) RNX_INLINE_LAMBDA {
+    const Pair<s32> u = widen<s32>(x), v = widen<s32>(y);
+    return Pair<s32>{lane(u.lo, v.lo), lane(u.hi, v.hi)};
+  };
+  if constexpr (sizeof(T) == 1) {
+    const Pair<s16> u = widen<s16>(a), v = widen<s16>(b);
+    return narrow<T>(Pair<s16>{narrow<s16>(lanes(u.lo, v.lo)), narrow<s16>(lanes(u.hi, v.hi))});
+  } else {
+    return narrow<T>(lanes(a, b));
+  }
+}
+
+template <class T, class F, class Rounding, class Channels>
 class Divide {
 public:
   explicit Divide(const BinaryCall<T>& call) : factor_(Vec<F>::splat(F(call.factor))) {}
 
   RNX_INLINE Vec<T> operator()(Vec<T> a, Vec<T> b) {
-    Vec<T> zero = equal(b, Vec<T>::zero()).template as<T>();
-    const Vec<T> rounded = divide(a, b - zero);  // all ones are -1: a zero divisor becomes 1
-    const Vec<T> result = select(zero.template as<typename MaskOf<sizeof(T)>::Type>(), byZero(a), rounded);
-    zeros_ = zeros_ | Channels::merge(zero, Vec<T>::zero());
-    return result;
+    const auto rounded = [factor = factor_](Vec<F> x, Vec<F> y) RNX_INLINE_LAMBDA {
+      return quotient<Rounding>(x, y, factor, Vec<F>::splat(F(kMin<T>)), Vec<F>::splat(F(kMax<T>)));
+    };
+    return zeros_.result(a, divideLanes<T, F>(a, zeros_.replaced(b), rounded));
   }
 
-  bool metZeroDivisor() const { return anySet(zeros_); }
+  bool metZeroDivisor() const { return zeros_.met(); }
 
 private:
-  using F = std::conditional_t<sizeof(T) == 1, f32, f64>;
-
-  // The largest value for a positive dividend, the smallest for a negative one, 0 for 0.
-  static RNX_INLINE Vec<T> byZero(Vec<T> a) {
-    const Vec<T> positive = greater(a, Vec<T>::zero()).template as<T>() & Vec<T>::splat(kMax<T>);
-    if constexpr (std::is_unsigned_v<T>) return positive;
-    return positive | (a & Vec<T>::splat(kMin<T>));
-  }
-
-  RNX_INLINE Vec<F> one(Vec<F> a, Vec<F> b) const {
-    return quotient<Rounding>(a, b, factor_, Vec<F>::splat(F(kMin<T>)), Vec<F>::splat(F(kMax<T>)));
-  }
-  RNX_INLINE Vec<s32> divide(Vec<s32> a, Vec<s32> b) const {
-    if constexpr (sizeof(T) == 1) {
-      return truncateToInt(one(toFloat(a), toFloat(b)));
-    } else {
-      const Pair<f64> x = toDouble(a), y = toDouble(b);
-      return truncateToInt(Pair<f64>{one(x.lo, y.lo), one(x.hi, y.hi)});
-    }
-  }
-  template <class I>
-  RNX_INLINE Pair<s32> divideWidened(Vec<I> a, Vec<I> b) const {
-    const Pair<s32> x = widen<s32>(a), y = widen<s32>(b);
-    return {divide(x.lo, y.lo), divide(x.hi, y.hi)};
-  }
-  RNX_INLINE Vec<T> divide(Vec<T> a, Vec<T> b) const {
-    if constexpr (sizeof(T) == 1) {
-      const Pair<s16> x = widen<s16>(a), y = widen<s16>(b);
-      return narrow<T>(Pair<s16>{narrow<s16>(divideWidened(x.lo, y.lo)), narrow<s16>(divideWidened(x.hi, y.hi))});
-    } else {
-      return narrow<T>(divideWidened(a, b));
-    }
-  }
-
   Vec<F> factor_;
-  Vec<T> zeros_ = Vec<T>::zero();
+  ZeroDivisors<T, Channels> zeros_;
+};
+
+// Half to even for 8u without a division: an approximate reciprocal is within 1.5 * 2^-12 of the exact one, nearer than
+// any quotient that is not a tie comes to a tie (2^-9 at scale factors from 0). A little less than the quotient rounds
+// every tie down, a little more rounds every tie up; where the two differ there was a tie, and the even one is meant.
+template <class Channels>
+class DivideApproximately {
+public:
+  explicit DivideApproximately(const BinaryCall<u8>& call)
+      : less_(splat(call.factor * kLess)), more_(splat(call.factor * kMore)) {}
+
+  RNX_INLINE Vec<u8> operator()(Vec<u8> a, Vec<u8> b) {
+    const Vec<u8> divisor = zeros_.replaced(b);
+    const Pair<s16> u = widen<s16>(a), v = widen<s16>(divisor);
+    const Both lo = both(u.lo, v.lo), hi = both(u.hi, v.hi);
+    const Vec<u8> down = narrow<u8>(Pair<s16>{lo.down, hi.down}), up = narrow<u8>(Pair<s16>{lo.up, hi.up});
+    return zeros_.result(a, up - ((up - down) & up));
+  }
+
+  bool metZeroDivisor() const { return zeros_.met(); }
+
+private:
+  struct Both {
+    Vec<s16> down, up;
+  };
+
+  static constexpr f32 kLess = 1 - 1.0f / 1024, kMore = 1 + 1.0f / 1024;
+  static Vec<f32> splat(f32 v) { return Vec<f32>::splat(v); }
+
+  RNX_INLINE Both both(Vec<s16> a, Vec<s16> b) const {
+    const Pair<s32> u = widen<s32>(a), v = widen<s32>(b);
+    const Vec<f32> lo = toFloat(u.lo) * reciprocal(toFloat(v.lo)), hi = toFloat(u.hi) * reciprocal(toFloat(v.hi));
+    return {narrow<s16>(Pair<s32>{rounded(lo * less_), rounded(hi * less_)}),
+            narrow<s16>(Pair<s32>{rounded(lo * more_), rounded(hi * more_)})};
+  }
+  // No tie is left, so the half may be added.
+  static RNX_INLINE Vec<s32> rounded(Vec<f32> v) { return truncateToInt(v + splat(0.5f)); }
+
+  Vec<f32> less_, more_;
+  ZeroDivisors<u8, Channels> zeros_;
 };
 
 // ---- 32f: the operations of IEEE 754 ----
@@ -271,10 +395,11 @@ template <class T, class FAll, class FColors = FAll>
 constexpr BinaryForms<T> kForms = {images<T, FAll, AllChannels<T>>, constant<T, FAll, AllChannels<T>>,
                                    images<T, FColors, ColorChannels<T>>, constant<T, FColors, ColorChannels<T>>};
 
-template <class T, class Rounding>
+template <class T, class F, class Rounding>
 constexpr BinaryForms<T> kDivide =
-    kForms<T, Divide<T, Rounding, AllChannels<T>>, Divide<T, Rounding, ColorChannels<T>>>;
+    kForms<T, Divide<T, F, Rounding, AllChannels<T>>, Divide<T, F, Rounding, ColorChannels<T>>>;
 
+// What all types share.
 template <class T>
 constexpr IntegerKernels<T> kIntegerKernels = {
     .add = kForms<T, AddSaturated<T>>,
@@ -282,23 +407,41 @@ constexpr IntegerKernels<T> kIntegerKernels = {
     .addRight = kForms<T, ScaledRight<T, Add>>,
     .addLeft = kForms<T, ScaledLeft<T, Add>>,
     .sub = kForms<T, SubSaturated<T>>,
+    .subHalf = kForms<T, ScaledRight<T, Sub>>,
     .subRight = kForms<T, ScaledRight<T, Sub>>,
     .subLeft = kForms<T, ScaledLeft<T, Sub>>,
     .mulRight = kForms<T, ScaledRight<T, Mul>>,
     .mulLeft = kForms<T, ScaledLeft<T, Mul>>,
-    .divZero = kDivide<T, RoundZero>,
-    .divEven = kDivide<T, RoundNearestEven>,
-    .divAway = kDivide<T, RoundHalfAway>,
+    .divZero = kDivide<T, f32, RoundZero>,
+    .divEven = kDivide<T, f32, RoundNearestEven>,
+    .divAway = kDivide<T, f32, RoundHalfAway>,
+    .divZeroLeft = kDivide<T, ScaledUp<T>, RoundZero>,
+    .divEvenLeft = kDivide<T, ScaledUp<T>, RoundNearestEven>,
+    .divAwayLeft = kDivide<T, ScaledUp<T>, RoundHalfAway>,
 };
+
+constexpr IntegerKernels<u8> of8u() {
+  IntegerKernels<u8> kernels = kIntegerKernels<u8>;
+  kernels.divEven = kForms<u8, DivideApproximately<AllChannels<u8>>, DivideApproximately<ColorChannels<u8>>>;
+  return kernels;
+}
+
+constexpr IntegerKernels<s16> of16s() {
+  IntegerKernels<s16> kernels = kIntegerKernels<s16>;
+  kernels.addRight = kForms<s16, SumRight<HalfOfSum>>;
+  kernels.subRight = kForms<s16, SumRight<HalfOfDifference>>;
+  kernels.mulRight = kForms<s16, ProductRight>;
+  return kernels;
+}
 
 }  // namespace
 
 namespace RNX_WIDTH {
 
 constinit const BinaryKernels binaryKernels = {
-    .of8u = kIntegerKernels<u8>,
+    .of8u = of8u(),
     .of16u = kIntegerKernels<u16>,
-    .of16s = kIntegerKernels<s16>,
+    .of16s = of16s(),
     .of32f = {.add = kForms<f32, AddFloat>,
               .sub = kForms<f32, SubFloat>,
               .mul = kForms<f32, MulFloat>,
