@@ -31,7 +31,9 @@ target_compile_options(rnx_library_flags INTERFACE
 target_compile_options(rnx_library_flags INTERFACE
   $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-mmemset-strategy=unrolled_loop:256:noalign,libcall:-1:noalign
     -mmemcpy-strategy=unrolled_loop:256:noalign,libcall:-1:noalign>)
-target_compile_definitions(rnx_library_flags INTERFACE $<$<NOT:$<BOOL:${RNXIP_SANITIZE}>>:NDEBUG>)
+if(NOT RNXIP_SANITIZE)
+  target_compile_definitions(rnx_library_flags INTERFACE NDEBUG)
+endif()
 target_link_libraries(rnx_library_flags INTERFACE rnx_warnings)
 
 function(rnx_shared_object target)

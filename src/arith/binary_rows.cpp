@@ -226,16 +226,7 @@ private:
 // The quotient is formed in floating point, scaled by a power of two, then rounded once. It must not fall on a tie that
 // the exact quotient only comes near to. A quotient x / d of integers that is not a tie keeps a distance of 1 / (2d)
 // from every tie, which is 1 / (2x) of itself. Single precision, with its 2^-24, therefore serves dividends below 2^23:
-// 8u always, as x is below 2^16 where the result does not saturate, and 16 bits for scale factors from -6.
-// Below that, where the dividend is scaled up, 16 bits need double precision.
-template <class T>
-using ScaledUp = std::conditional_t<sizeof(T) == 1, f32, f64>;
-
-template <class Rounding, class F>
-RNX_INLINE Vec<F> quotient(Vec<F> a, Vec<F> b, Vec<F> factor, Vec<F> low, Vec<F> high) {
-  return min(max(Rounding::round(a * factor / b), low), high);
-}
-
+// 8u always, as x is below 2^16 where the result does not saturate, and 16 bits unless they are scaled up.
 // What surrounds the quotient: divisors of 0 are replaced by 1, their results by the division rule.
 template <class T, class Channels>
 class ZeroDivisors {
@@ -262,86 +253,86 @@ private:
   Vec<T> met_ = Vec<T>::zero();
 };
 
-// Integers to lanes of F and back. f takes two vectors of F and gives the result as s32.
-template <class T, class F, class Quotient>
-RNX_INLINE Vec<T> divideLanes(Vec<T> a, Vec<T> b, Quotient f) {
-  const auto lane = [&](Vec<s32> x, Vec<s32> y) RNX_INLINE_LAMBDA {
-    if constexpr (std::is_same_v<F, f32>) {
-      return truncateToInt(f(toFloat(x), toFloat(y)));
-    } else {
-      const Pair<f64> u = toDouble(x), v = toDouble(y);
-      return truncateToInt(Pair<f64>{f(u.lo, v.lo), f(u.hi, v.hi)});
-    }
-  };
-  const auto lanes = [&](auto x, auto y) RNX_INLINE_LAMBDA {
-    const Pair<s32> u = widen<s32>(x), v = widen<s32>(y);
-    return Pair<s32>{lane(u.lo, v.lo), lane(u.hi, v.hi)};
-  };
-  if constexpr (sizeof(T) == 1) {
-    const Pair<s16> u = widen<s16>(a), v = widen<s16>(b);
-    return narrow<T>(Pair<s16>{narrow<s16>(lanes(u.lo, v.lo)), narrow<s16>(lanes(u.hi, v.hi))});
-  } else {
-    return narrow<T>(lanes(a, b));
-  }
-}
-
-template <class T, class F, class Rounding, class Channels>
+// ScaledUp says that the scale factor is negative: then 16 bits need double precision, and quotients need limits before
+// they become integers. Others lie within [-2^15, 2^15], or are those of unsigned values.
+template <class T, class Rounding, bool ScaledUp, class Channels>
 class Divide {
 public:
   explicit Divide(const BinaryCall<T>& call) : factor_(Vec<F>::splat(F(call.factor))) {}
 
   RNX_INLINE Vec<T> operator()(Vec<T> a, Vec<T> b) {
-    const auto rounded = [factor = factor_](Vec<F> x, Vec<F> y) RNX_INLINE_LAMBDA {
-      return quotient<Rounding>(x, y, factor, Vec<F>::splat(F(kMin<T>)), Vec<F>::splat(F(kMax<T>)));
-    };
-    return zeros_.result(a, divideLanes<T, F>(a, zeros_.replaced(b), rounded));
+    const Vec<T> divisor = zeros_.replaced(b);
+    if constexpr (sizeof(T) == 1) {
+      const Pair<u16> x = widen<u16>(a), y = widen<u16>(divisor);
+      return zeros_.result(a,
+                           narrow<u8>(Pair<u16>{narrow<u16>(ofLanes(x.lo, y.lo)), narrow<u16>(ofLanes(x.hi, y.hi))}));
+    } else {
+      return zeros_.result(a, narrow<T>(ofLanes(a, divisor)));
+    }
   }
 
   bool metZeroDivisor() const { return zeros_.met(); }
 
 private:
+  using F = std::conditional_t<ScaledUp && sizeof(T) == 2, f64, f32>;
+
+  template <class I>
+  RNX_INLINE Pair<s32> ofLanes(Vec<I> a, Vec<I> b) const {
+    const Pair<s32> x = widen<s32>(a), y = widen<s32>(b);
+    return {ofLanes(x.lo, y.lo), ofLanes(x.hi, y.hi)};
+  }
+  RNX_INLINE Vec<s32> ofLanes(Vec<s32> a, Vec<s32> b) const {
+    if constexpr (std::is_same_v<F, f32>) {
+      return truncateToInt(quotient(toFloat(a), toFloat(b)));
+    } else {
+      const Pair<f64> x = toDouble(a), y = toDouble(b);
+      return truncateToInt(Pair<f64>{quotient(x.lo, y.lo), quotient(x.hi, y.hi)});
+    }
+  }
+  RNX_INLINE Vec<F> quotient(Vec<F> a, Vec<F> b) const {
+    Vec<F> q = Rounding::round(a * factor_ / b);
+    if constexpr (ScaledUp && std::is_signed_v<T>) q = max(q, Vec<F>::splat(F(kMin<T>)));
+    if constexpr (ScaledUp) q = min(q, Vec<F>::splat(F(kMax<T>)));
+    return q;
+  }
+
   Vec<F> factor_;
   ZeroDivisors<T, Channels> zeros_;
 };
 
-// Half to even for 8u without a division: an approximate reciprocal is within 1.5 * 2^-12 of the exact one, nearer than
-// any quotient that is not a tie comes to a tie (2^-9 at scale factors from 0). A little less than the quotient rounds
-// every tie down, a little more rounds every tie up; where the two differ there was a tie, and the even one is meant.
-template <class Channels>
-class DivideApproximately {
+// 8u by one constant, half to even, without a division. With d = divisor * 2^scaleFactor:
+//   q = floor((2a + d) / 2d), less 1 where the division leaves no rest, which is a tie that went up, and q is odd.
+// The division by 2d is a multiplication by m = ceil(2^(10+s) / 2d), where s gives m 16 bits. It is exact for
+// numerators below 2^15; they are below 2^10, because from d = 510 on everything rounds to 0 (m = 0 does that).
+class DivideByOne : public NoDivision<u8> {
 public:
-  explicit DivideApproximately(const BinaryCall<u8>& call)
-      : less_(splat(call.factor * kLess)), more_(splat(call.factor * kMore)) {}
-
-  RNX_INLINE Vec<u8> operator()(Vec<u8> a, Vec<u8> b) {
-    const Vec<u8> divisor = zeros_.replaced(b);
-    const Pair<s16> u = widen<s16>(a), v = widen<s16>(divisor);
-    const Both lo = both(u.lo, v.lo), hi = both(u.hi, v.hi);
-    const Vec<u8> down = narrow<u8>(Pair<s16>{lo.down, hi.down}), up = narrow<u8>(Pair<s16>{lo.up, hi.up});
-    return zeros_.result(a, up - ((up - down) & up));
+  explicit DivideByOne(const BinaryCall<u8>& call) : NoDivision(call) {
+    const u64 d = static_cast<u64>(static_cast<f32>(call.right[0]) / call.factor);
+    if (d >= 510) return;
+    int s = 6;
+    while ((u64{1} << (10 + s)) / (2 * d) < 0x8000) ++s;
+    divisor64_ = splat(d << 6);
+    twice_ = splat(2 * d);
+    multiplier_ = splat(((u64{1} << (10 + s)) + 2 * d - 1) / (2 * d));
+    shift_ = splat(u64{1} << (16 - s));
   }
 
-  bool metZeroDivisor() const { return zeros_.met(); }
+  RNX_INLINE Vec<u8> operator()(Vec<u8> a, Vec<u8>) const {
+    const Pair<u16> x = widen<u16>(a);
+    return narrow<u8>(Pair<u16>{one(x.lo), one(x.hi)});
+  }
 
 private:
-  struct Both {
-    Vec<s16> down, up;
-  };
+  static Vec<u16> splat(u64 v) { return Vec<u16>::splat(static_cast<u16>(v)); }
 
-  static constexpr f32 kLess = 1 - 1.0f / 1024, kMore = 1 + 1.0f / 1024;
-  static Vec<f32> splat(f32 v) { return Vec<f32>::splat(v); }
-
-  RNX_INLINE Both both(Vec<s16> a, Vec<s16> b) const {
-    const Pair<s32> u = widen<s32>(a), v = widen<s32>(b);
-    const Vec<f32> lo = toFloat(u.lo) * reciprocal(toFloat(v.lo)), hi = toFloat(u.hi) * reciprocal(toFloat(v.hi));
-    return {narrow<s16>(Pair<s32>{rounded(lo * less_), rounded(hi * less_)}),
-            narrow<s16>(Pair<s32>{rounded(lo * more_), rounded(hi * more_)})};
+  RNX_INLINE Vec<u16> one(Vec<u16> a) const {
+    const Vec<u16> numerator = shiftLeft<7>(a) + divisor64_;  // times 64
+    const Vec<u16> q = multiplyHigh(multiplyHigh(numerator, multiplier_), shift_);
+    const Vec<u16> tie = equal(shiftLeft<6>(q * twice_), numerator).as<u16>();
+    return q - (q & tie & Vec<u16>::splat(1));
   }
-  // No tie is left, so the half may be added.
-  static RNX_INLINE Vec<s32> rounded(Vec<f32> v) { return truncateToInt(v + splat(0.5f)); }
 
-  Vec<f32> less_, more_;
-  ZeroDivisors<u8, Channels> zeros_;
+  Vec<u16> divisor64_ = splat(0), twice_ = splat(0), multiplier_ = splat(0), shift_ = splat(0);
 };
 
 // ---- 32f: the operations of IEEE 754 ----
@@ -395,9 +386,9 @@ template <class T, class FAll, class FColors = FAll>
 constexpr BinaryForms<T> kForms = {images<T, FAll, AllChannels<T>>, constant<T, FAll, AllChannels<T>>,
                                    images<T, FColors, ColorChannels<T>>, constant<T, FColors, ColorChannels<T>>};
 
-template <class T, class F, class Rounding>
+template <class T, class Rounding, bool ScaledUp>
 constexpr BinaryForms<T> kDivide =
-    kForms<T, Divide<T, F, Rounding, AllChannels<T>>, Divide<T, F, Rounding, ColorChannels<T>>>;
+    kForms<T, Divide<T, Rounding, ScaledUp, AllChannels<T>>, Divide<T, Rounding, ScaledUp, ColorChannels<T>>>;
 
 // What all types share.
 template <class T>
@@ -412,17 +403,22 @@ constexpr IntegerKernels<T> kIntegerKernels = {
     .subLeft = kForms<T, ScaledLeft<T, Sub>>,
     .mulRight = kForms<T, ScaledRight<T, Mul>>,
     .mulLeft = kForms<T, ScaledLeft<T, Mul>>,
-    .divZero = kDivide<T, f32, RoundZero>,
-    .divEven = kDivide<T, f32, RoundNearestEven>,
-    .divAway = kDivide<T, f32, RoundHalfAway>,
-    .divZeroLeft = kDivide<T, ScaledUp<T>, RoundZero>,
-    .divEvenLeft = kDivide<T, ScaledUp<T>, RoundNearestEven>,
-    .divAwayLeft = kDivide<T, ScaledUp<T>, RoundHalfAway>,
+    .divZero = kDivide<T, RoundZero, false>,
+    .divEven = kDivide<T, RoundNearestEven, false>,
+    .divAway = kDivide<T, RoundHalfAway, false>,
+    .divZeroLeft = kDivide<T, RoundZero, true>,
+    .divEvenLeft = kDivide<T, RoundNearestEven, true>,
+    .divAwayLeft = kDivide<T, RoundHalfAway, true>,
 };
+
+bool divideByConstant(const BinaryCall<u8>& call) {
+  using Any = Divide<u8, RoundNearestEven, false, AllChannels<u8>>;
+  return call.period == 1 ? constant<u8, DivideByOne, AllChannels<u8>>(call) : constant<u8, Any, AllChannels<u8>>(call);
+}
 
 constexpr IntegerKernels<u8> of8u() {
   IntegerKernels<u8> kernels = kIntegerKernels<u8>;
-  kernels.divEven = kForms<u8, DivideApproximately<AllChannels<u8>>, DivideApproximately<ColorChannels<u8>>>;
+  kernels.divEven.constant = divideByConstant;
   return kernels;
 }
 

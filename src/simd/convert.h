@@ -8,8 +8,6 @@ namespace {
 
 // clang-format off
 RNX_INLINE Vec<f32> toFloat(Vec<s32> v) { return {RNX_MM(cvtepi32_ps)(v.bits())}; }
-// Within 1.5 * 2^-12 of 1 / v, and not the same on every processor: for results that do not depend on that.
-RNX_INLINE Vec<f32> reciprocal(Vec<f32> v) { return {RNX_MM(rcp_ps)(v.raw)}; }
 // Truncates; a value outside the int range gives INT_MIN.
 RNX_INLINE Vec<s32> truncateToInt(Vec<f32> v) { return Vec<s32>::of(RNX_MM(cvttps_epi32)(v.raw)); }
 
