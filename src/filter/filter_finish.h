@@ -30,11 +30,11 @@ template <class Rounding>
 class Shift {
 public:
   explicit Shift(const FilterSpec& s)
-      : shift_(s.shift), half_(Vec<s32>::splat(s.half)), mask_(Vec<s32>::splat(s.mask)) {}
+      : shift_(shiftCount(s.shift)), half_(Vec<s32>::splat(s.half)), mask_(Vec<s32>::splat(s.mask)) {}
 
   RNX_INLINE Vec<s32> operator()(Vec<s32> sum) const {
     const Vec<s32> floor = shiftRight(sum, shift_), rest = sum & mask_, one = Vec<s32>::splat(1);
-    const Vec<s32> minusOneBelow0 = shiftRight(sum, 31);
+    const Vec<s32> minusOneBelow0 = greater(Vec<s32>::zero(), sum);
     if constexpr (!kRoundsUp<Rounding>) {
       return floor + shiftRight(rest + (minusOneBelow0 & mask_), shift_);
     } else if constexpr (kTiesToEven<Rounding>) {
@@ -45,7 +45,7 @@ public:
   }
 
 private:
-  int shift_;
+  ShiftCount shift_;
   Vec<s32> half_, mask_;
 };
 

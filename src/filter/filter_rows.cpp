@@ -58,7 +58,7 @@ RNX_INLINE void convertRow(Unit* out, const T* a, const T* b, s64 n, Convert con
 // What follows a row that is shorter than a block is computed with, but not used.
 template <class Unit>
 RNX_INLINE void endRow(Unit* row, s64 n, s64 results) {
-  constexpr s64 kBlock = kBlockVectors * kBytes / kUnit;
+  constexpr s64 kBlock = kBlockVectors * kBytes / s64{sizeof(Unit)};
   if (results < kBlock) std::memset(row + n, 0, kBlock * sizeof(Unit));
 }
 

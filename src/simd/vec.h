@@ -45,7 +45,8 @@ struct Vec {
 
   static RNX_INLINE Vec of(Int r) { return {reinterpret_cast<Raw>(r)}; }
   static RNX_INLINE Vec zero() { return {Raw{}}; }
-  static RNX_INLINE Vec splat(T v) { return {Raw{} + v}; }
+  // v - 0 is v for every float; 0 + v would turn -0.0 into 0.0.
+  static RNX_INLINE Vec splat(T v) { return {v - Raw{}}; }
   static RNX_INLINE Vec load(const T* p) {
     return {reinterpret_cast<Raw>(RNX_MM(loadu_ps)(reinterpret_cast<const float*>(p)))};
   }

@@ -190,7 +190,18 @@ struct Caller {
   }
 
   void checkAny(const Job& job) {
-    withType(call.signature().source(), [&](auto zero) { check<decltype(zero)>(job); });
+    switch (call.signature().source()) {
+      case Element::k8u:
+        return check<u8>(job);
+      case Element::k16u:
+        return check<u16>(job);
+      case Element::k16s:
+        return check<s16>(job);
+      case Element::k32f:
+        return check<f32>(job);
+      default:
+        return check<f64>(job);
+    }
   }
 };
 

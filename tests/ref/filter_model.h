@@ -3,7 +3,7 @@
 #pragma once
 
 #include <cmath>
-#include <functional>
+#include <cstring>
 #include <limits>
 #include <vector>
 
