@@ -5,8 +5,7 @@
 // its truncation is that of a / d as long as the error of the product is smaller.
 #pragma once
 
-#include "filter/filter_spec.h"
-#include "simd/order.h"
+#include "filter/filter_sums.h"
 
 namespace rnx::filter {
 namespace {
@@ -18,7 +17,7 @@ inline constexpr bool kRoundsUp = !std::is_same_v<Rounding, RoundZero>;
 template <class Rounding>
 inline constexpr bool kTiesToEven = std::is_same_v<Rounding, RoundNearestEven>;
 
-// ---- Integer sums, results still in 32 bits ----
+// ---- Integer sums: functors from sums to results, still in 32 bits ----
 
 struct NoDivision {
   explicit NoDivision(const FilterSpec&) {}
@@ -49,23 +48,22 @@ private:
   Vec<s32> half_, mask_;
 };
 
-// For 8u and 0 < d <= kLargest. Sums are limited to 256d, which saturates, so the quotient in single precision, of two
-// roundings and a rounded reciprocal, has an error below 256.5 * 2^-23 < 1 / (2d). Half a divisor is added to round:
-// (d - 1) / 2 + 1/2 for an odd one, where there are no ties, d / 2 + 1/2 for an even one.
+// For 8u and 0 < d <= kLargest. Up to 256.5d the quotient in single precision, of two roundings and a rounded
+// reciprocal, has an error below 256.5 * 2^-23 < 1 / (2d); what lies outside saturates either way. To round, half a
+// divisor is added: (d - 1) / 2 + 1/2 for an odd one, which has no ties, d / 2 + 1/2 for an even one.
 template <class Rounding>
 class DivideSingle {
 public:
   static constexpr s32 kLargest = 8192;
 
   explicit DivideSingle(const FilterSpec& s)
-      : limit_(Vec<s32>::splat(256 * s.divisor - 1)),
-        bias_(Vec<f32>::splat(static_cast<f32>(kRoundsUp<Rounding> ? s.divisor / 2 : 0) + 0.5f)),
+      : bias_(Vec<f32>::splat(static_cast<f32>(kRoundsUp<Rounding> ? s.divisor / 2 : 0) + 0.5f)),
         half_(Vec<f32>::splat(s.divisorFloat / 2)),
         divisor_(Vec<f32>::splat(s.divisorFloat)),
         reciprocal_(Vec<f32>::splat(s.reciprocal)) {}
 
   RNX_INLINE Vec<s32> operator()(Vec<s32> sum) const {
-    const Vec<f32> a = toFloat(clamp(sum, Vec<s32>::zero(), limit_));
+    const Vec<f32> a = toFloat(sum);
     const Vec<s32> up = truncateToInt((a + bias_) * reciprocal_);
     if constexpr (!kTiesToEven<Rounding>) return up;
     const Vec<s32> tie = equal(toFloat(up) * divisor_, a + half_);
@@ -73,7 +71,6 @@ public:
   }
 
 private:
-  Vec<s32> limit_;
   Vec<f32> bias_, half_, divisor_, reciprocal_;
 };
 
@@ -121,9 +118,9 @@ private:
 
 // The step that sums of 8u take through single precision: (int)((float)sum + offset).
 template <class Next>
-class SingleStep {
+class ThroughSingle {
 public:
-  explicit SingleStep(const FilterSpec& s) : offset_(Vec<f32>::splat(s.scaledOffset)), next_(s) {}
+  explicit ThroughSingle(const FilterSpec& s) : offset_(Vec<f32>::splat(s.scaledOffset)), next_(s) {}
   RNX_INLINE Vec<s32> operator()(Vec<s32> sum) const { return next_(truncateToInt(toFloat(sum) + offset_)); }
 
 private:
@@ -160,12 +157,11 @@ RNX_INLINE Vec<F> roundSaturated(Vec<F> v) {
 }
 
 template <class T, class Rounding>
-class FinishFloat {
+class RoundFloat {
 public:
-  using Sum = f32;
-  explicit FinishFloat(const FilterSpec& s) : offset_(Vec<f32>::splat(s.scaledOffset)) {}
-  RNX_INLINE Vec<s32> operator()(const f32* sums) const {
-    return truncateToInt(roundSaturated<T, Rounding>(Vec<f32>::load(sums) + offset_));
+  explicit RoundFloat(const FilterSpec& s) : offset_(Vec<f32>::splat(s.scaledOffset)) {}
+  RNX_INLINE Vec<s32> operator()(Vec<f32> sum) const {
+    return truncateToInt(roundSaturated<T, Rounding>(sum + offset_));
   }
 
 private:
@@ -175,18 +171,16 @@ private:
 // Integer sums of any size, held in double precision. Sums of 8u go through single precision as above: adding two
 // singles in double and rounding that once more is their sum in single.
 template <class T, class Rounding>
-class FinishWideInteger {
+class DivideWide {
 public:
-  using Sum = f64;
-  explicit FinishWideInteger(const FilterSpec& s)
+  explicit DivideWide(const FilterSpec& s)
       : offset_(Vec<f64>::splat(s.scaledOffset)), divisor_(Vec<f64>::splat(s.divisorDouble)) {}
-  RNX_INLINE Vec<s32> operator()(const f64* sums) const {
-    constexpr int L = Vec<f64>::kLanes;
-    return truncateToInt(Pair<f64>{finish(Vec<f64>::load(sums)), finish(Vec<f64>::load(sums + L))});
+  RNX_INLINE Vec<s32> operator()(Vec<f64> low, Vec<f64> high) const {
+    return truncateToInt(Pair<f64>{divide(low), divide(high)});
   }
 
 private:
-  RNX_INLINE Vec<f64> finish(Vec<f64> sum) const {
+  RNX_INLINE Vec<f64> divide(Vec<f64> sum) const {
     if constexpr (std::is_unsigned_v<T>) {
       sum = roundTo<_MM_FROUND_TO_ZERO>(roundToSingle(roundToSingle(sum) + offset_));
       sum = max(sum, Vec<f64>::zero());
@@ -197,78 +191,93 @@ private:
   Vec<f64> offset_, divisor_;
 };
 
-template <class Next>
-class FinishInteger {
-public:
-  using Sum = s32;
-  explicit FinishInteger(const FilterSpec& s) : next_(s) {}
-  RNX_INLINE Vec<s32> operator()(const s32* sums) const { return next_(Vec<s32>::load(sums)); }
+// ---- Blocks of results ----
 
-private:
-  Next next_;
+// Sums that are the results. They began with 0.0, so that none of them is -0.0: adding the offset 0 changes nothing.
+struct Unrounded {
+  explicit Unrounded(const FilterSpec&) {}
+  template <class T>
+  RNX_INLINE void store(T* out, const Block<T>& sums) const {
+    constexpr int L = Vec<T>::kLanes;
+    sums.a.store(out), sums.b.store(out + L), sums.c.store(out + 2 * L), sums.d.store(out + 3 * L);
+  }
 };
 
-// ---- Rows ----
+// Each vector of sums becomes a vector of 32-bit results.
+template <class T, class Result>
+class Rounded {
+public:
+  explicit Rounded(const FilterSpec& s) : result_(s) {}
 
-// finish(sums) gives the results of one vector of 32 bits. Sums are readable up to a whole vector of T.
-template <class T, class Finish>
-void finishRow(const FilterSpec& spec, const typename Finish::Sum* sums, T* dst, s64 n) {
-  constexpr int L = Vec<T>::kLanes, L32 = Vec<s32>::kLanes;
-  const Finish finish(spec);
-  const auto vectorAt = [&](s64 i) __attribute__((always_inline)) {
-    Vec<s32> v[kWideVectors<T>];
-    for (int k = 0; k < kWideVectors<T>; ++k) v[k] = finish(sums + i + k * L32);
-    return narrowInOrder<T>(v);
-  };
-  if (n < L) {
-    T whole[L];
-    vectorAt(0).store(whole);
-    std::memcpy(dst, whole, static_cast<size_t>(n) * sizeof(T));
-    return;
+  template <class V>
+  RNX_INLINE void store(T* out, const Block<V>& sums) const {
+    if constexpr (sizeof(T) == 1) {
+      narrowInOrder<T>({result_(sums.a), result_(sums.b), result_(sums.c), result_(sums.d)}).store(out);
+    } else {
+      narrowInOrder<T>({result_(sums.a), result_(sums.b)}).store(out);
+      narrowInOrder<T>({result_(sums.c), result_(sums.d)}).store(out + Vec<T>::kLanes);
+    }
   }
-  for (s64 i = 0;; i += L) {
-    i = i + L > n ? n - L : i;
-    vectorAt(i).store(dst + i);
-    if (i + L == n) return;
+
+private:
+  Result result_;
+};
+
+// Two vectors of sums become a vector of 32-bit results.
+template <class T, class Result>
+class RoundedWide {
+public:
+  explicit RoundedWide(const FilterSpec& s) : result_(s) {}
+
+  RNX_INLINE void store(T* out, const Block<f64>& sums) const {
+    const Vec<s32> low = result_(sums.a, sums.b), high = result_(sums.c, sums.d);
+    if constexpr (sizeof(T) == 1) {
+      storeHalf(out, narrowInOrder<T>({low, high, low, high}));
+    } else {
+      narrowInOrder<T>({low, high}).store(out);
+    }
   }
-}
+
+private:
+  Result result_;
+};
 
 // ---- Which one ----
 
-template <class T, class Sum>
-using FinishRow = void (*)(const FilterSpec&, const Sum*, T*, s64);
-
 // One of three, by the rounding mode.
-template <class T, class Zero, class Even, class Away>
-FinishRow<T, typename Zero::Sum> byRounding(s32 roundMode) {
-  switch (roundMode & kRoundingBits) {
-    case rnxRoundZero:
-      return finishRow<T, Zero>;
-    case rnxRoundNearestEven:
-      return finishRow<T, Even>;
-    default:
-      return finishRow<T, Away>;
-  }
+template <class F>
+F byRounding(s32 roundMode, F zero, F even, F away) {
+  const s32 mode = roundMode & kRoundingBits;
+  return mode == rnxRoundZero ? zero : mode == rnxRoundNearestEven ? even : away;
 }
 
 // Next<F> is what stands between the sums and the division F.
+template <class T, template <class> class Next, class Zero, class Even, class Away>
+SumTwoRows<s32, T> sumPairsBy(s32 roundMode) {
+  return byRounding<SumTwoRows<s32, T>>(roundMode, sumPairs<T, Rounded<T, Next<Zero>>>,
+                                        sumPairs<T, Rounded<T, Next<Even>>>, sumPairs<T, Rounded<T, Next<Away>>>);
+}
+
 template <class T, template <class> class Next>
-FinishRow<T, s32> finishOfDivisor(const FilterSpec& s) {
+SumTwoRows<s32, T> sumPairsOf(const FilterSpec& s) {
   using Zero = RoundZero;
   using Even = RoundNearestEven;
   using Away = RoundHalfAway;
   constexpr bool kNegativeIsZero = std::is_unsigned_v<T>;
-  if (s.divisorMode == DivisorMode::kOne) return finishRow<T, Next<NoDivision>>;
+  if (s.divisorMode == DivisorMode::kOne) return sumPairs<T, Rounded<T, Next<NoDivision>>>;
   if (s.divisorMode == DivisorMode::kPowerOfTwo) {
-    return byRounding<T, Next<Shift<Zero>>, Next<Shift<Even>>, Next<Shift<Away>>>(s.roundMode);
+    return sumPairsBy<T, Next, Shift<Zero>, Shift<Even>, Shift<Away>>(s.roundMode);
   }
   if constexpr (sizeof(T) == 1) {
-    if (s.divisor > 0 && s.divisor <= DivideSingle<Zero>::kLargest) {
-      return byRounding<T, Next<DivideSingle<Zero>>, Next<DivideSingle<Even>>, Next<DivideSingle<Away>>>(s.roundMode);
+    using SingleAway = DivideSingle<Away>;
+    if (s.divisor > 0 && s.divisor <= SingleAway::kLargest) {
+      // Without ties the two ways to nearest are one.
+      return s.divisor % 2 == 0 ? sumPairsBy<T, Next, DivideSingle<Zero>, DivideSingle<Even>, SingleAway>(s.roundMode)
+                                : sumPairsBy<T, Next, DivideSingle<Zero>, SingleAway, SingleAway>(s.roundMode);
     }
   }
-  return byRounding<T, Next<DivideDouble<Zero, kNegativeIsZero>>, Next<DivideDouble<Even, kNegativeIsZero>>,
-                    Next<DivideDouble<Away, kNegativeIsZero>>>(s.roundMode);
+  return sumPairsBy<T, Next, DivideDouble<Zero, kNegativeIsZero>, DivideDouble<Even, kNegativeIsZero>,
+                    DivideDouble<Away, kNegativeIsZero>>(s.roundMode);
 }
 
 // The step through single precision does nothing to sums that it holds exactly.
@@ -278,25 +287,30 @@ inline bool needsSingle(const FilterSpec& s) {
 }
 
 template <class F>
-using Directly = FinishInteger<F>;
-template <class F>
-using ThroughSingle = FinishInteger<SingleStep<F>>;
+using Directly = F;
 
-inline FinishRow<u8, s32> finishOfSums(const FilterSpec& s, u8) {
-  return needsSingle(s) ? finishOfDivisor<u8, ThroughSingle>(s) : finishOfDivisor<u8, Directly>(s);
+inline SumTwoRows<s32, u8> sumsOfPairs(const FilterSpec& s, u8) {
+  return needsSingle(s) ? sumPairsOf<u8, ThroughSingle>(s) : sumPairsOf<u8, Directly>(s);
 }
-inline FinishRow<s16, s32> finishOfSums(const FilterSpec& s, s16) { return finishOfDivisor<s16, Directly>(s); }
+inline SumTwoRows<s32, s16> sumsOfPairs(const FilterSpec& s, s16) { return sumPairsOf<s16, Directly>(s); }
+
+// Sums in the precision V with the finish of each rounding mode.
+template <class V, class T, class Zero, class Even, class Away>
+SumTwoRows<f32, T> sumRowsBy(s32 roundMode) {
+  return byRounding<SumTwoRows<f32, T>>(roundMode, sumRows<V, f32, T, Zero>, sumRows<V, f32, T, Even>,
+                                        sumRows<V, f32, T, Away>);
+}
 
 template <class T>
-FinishRow<T, f64> finishOfWideSums(const FilterSpec& s) {
-  return byRounding<T, FinishWideInteger<T, RoundZero>, FinishWideInteger<T, RoundNearestEven>,
-                    FinishWideInteger<T, RoundHalfAway>>(s.roundMode);
+SumTwoRows<f32, T> sumsOfWideIntegers(const FilterSpec& s) {
+  return sumRowsBy<f64, T, RoundedWide<T, DivideWide<T, RoundZero>>, RoundedWide<T, DivideWide<T, RoundNearestEven>>,
+                   RoundedWide<T, DivideWide<T, RoundHalfAway>>>(s.roundMode);
 }
 
 template <class T>
-FinishRow<T, f32> finishOfFloats(const FilterSpec& s) {
-  return byRounding<T, FinishFloat<T, RoundZero>, FinishFloat<T, RoundNearestEven>, FinishFloat<T, RoundHalfAway>>(
-      s.roundMode);
+SumTwoRows<f32, T> sumsOfFloats(const FilterSpec& s) {
+  return sumRowsBy<f32, T, Rounded<T, RoundFloat<T, RoundZero>>, Rounded<T, RoundFloat<T, RoundNearestEven>>,
+                   Rounded<T, RoundFloat<T, RoundHalfAway>>>(s.roundMode);
 }
 
 }  // namespace

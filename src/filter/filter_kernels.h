@@ -13,35 +13,32 @@ struct WorkBuffer {
   const void** rows;  // the window: one address per row of the kernel, and one more
   char* constantRow;  // stands in for rows outside the image
   char* ring;         // bordered rows
-  char* sums;         // of two result rows
-  s64 ringStep, sumStep, bytes;
+  char* results;      // two rows of results that cannot be written where they belong
+  s64 rowStep, bytes;
 };
 
 inline constexpr s64 kUnit = 4;
 inline constexpr s64 kVectorBytes = 32;  // of the widest kernels
 inline constexpr s64 kBlockVectors = 4;  // kernels work on so many vectors at a time, beyond the end of short rows
-inline constexpr s64 kMaxSumBytes = 8;   // per element
 
 // Steps between rows are odd multiples of 64 bytes, so that rows at the same column fall into different cache sets.
 inline s64 spreadStep(s64 bytes) { return core::roundUp(bytes, 64) | 64; }
 
-// `elements` of a row with its border, `kernelHeight` rows. With a null block it measures; -1 stands for more than can
-// be reported.
+// For rows of so many elements, border included. With a null block it measures; what cannot be reported comes out as
+// one byte more than can.
 inline WorkBuffer layOut(void* alignedBlock, s64 elements, s64 kernelHeight, s64 unit, s64 vectorBytes) {
   WorkBuffer w = {};
-  const s64 overshoot = kBlockVectors * vectorBytes;
   const s64 count = kernelHeight + 1;
-  w.ringStep = spreadStep(elements * unit + overshoot);
-  w.sumStep = spreadStep(elements * kMaxSumBytes + kMaxSumBytes / kUnit * overshoot);
-  if (w.ringStep > core::kMaxReportedSize / count) {
+  w.rowStep = spreadStep(elements * unit + kBlockVectors * vectorBytes);
+  if (w.rowStep > core::kMaxReportedSize / count) {
     w.bytes = core::kMaxReportedSize + 1;
     return w;
   }
   core::Carver carver(alignedBlock);
   w.rows = carver.take<const void*>(count);
-  w.constantRow = carver.take<char>(elements * unit);
-  w.ring = carver.take<char>(count * w.ringStep);
-  w.sums = carver.take<char>(2 * w.sumStep);
+  w.constantRow = carver.take<char>(w.rowStep);
+  w.ring = carver.take<char>(count * w.rowStep);
+  w.results = carver.take<char>(2 * w.rowStep);
   w.bytes = carver.used();
   return w;
 }

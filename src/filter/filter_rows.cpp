@@ -30,11 +30,6 @@ s64 lastRow(const FilterCall<T>& call) {
   return call.height + call.spec->height - 2;
 }
 
-template <class Unit, class T>
-Unit* sumsOf(const FilterCall<T>& call, s64 row) {
-  return reinterpret_cast<Unit*>(call.buffer.sums + row * call.buffer.sumStep);
-}
-
 // ---- Making rows of units ----
 
 // Calls convert(out, i) for groups of `Group` elements that cover [0, n); the last one ends at n. A row shorter than a
@@ -87,111 +82,85 @@ bool hasConstant(const FilterCall<T>& call) {
   return call.border.base == rnxBorderConst;
 }
 
+// Walks down the image: `sum` makes two result rows from a window of `count` rows, which then moves down by `steps`.
+// Results of rows shorter than a block, and of the row behind the last one, are written elsewhere first.
+template <int BlockElements, class Unit, class T, class Make>
+RNX_INLINE void walkDown(const FilterCall<T>& call, SumTwoRows<Unit, T> sum, s64 count, s64 steps, Make make) {
+  const SumShape shape = shapeOf(call);
+  const auto target = [&](s64 y, s64 which) {
+    const bool direct = y < call.height && shape.elements >= BlockElements;
+    char* scratch = call.buffer.results + which * call.buffer.rowStep;
+    return direct ? core::at(call.dst, y * call.dstStep) : reinterpret_cast<T*>(scratch);
+  };
+  const auto deliver = [&](s64 y, const T* results) {
+    T* dst = core::at(call.dst, y * call.dstStep);
+    if (results != dst) std::memcpy(dst, results, static_cast<size_t>(shape.elements) * sizeof(T));
+  };
+
+  RowWindow<Unit> window(call.buffer.rows, call.buffer.ring, call.buffer.rowStep, count);
+  window.fill(make);
+  for (s64 y = 0;; window.moveDown(steps, make)) {
+    T *const out0 = target(y, 0), *const out1 = target(y + 1, 1);
+    sum(window.rows(), *call.spec, shape, out0, out1);
+    deliver(y, out0);
+    if (++y == call.height) return;
+    deliver(y, out1);
+    if (++y == call.height) return;
+  }
+}
+
 // ---- Integer ----
 
 template <class T>
 void filterInteger(const FilterCall<T>& call) {
   const BorderedImage<T> image = imageOf(call);
-  const SumShape shape = shapeOf(call);
-  const s64 last = lastRow(call);
+  const s64 last = lastRow(call), results = call.width * call.channels;
   s32 constant[4] = {};
   for (s64 c = 0; c < call.channels && hasConstant(call); ++c) {
     const auto value = static_cast<u16>(call.borderValue[c]);
     constant[c] = static_cast<s32>(value | u32{value} << 16);
   }
-  const auto make = [&](s64 pair, s32* memory) {
-    makePairs(image, std::min(2 * pair, last), std::min(2 * pair + 1, last), memory, constant, shape.elements);
-    return memory;
-  };
-
-  const FinishRow<T, s32> finish = finishOfSums(*call.spec, T{});
-  s32 *const sums0 = sumsOf<s32>(call, 0), *const sums1 = sumsOf<s32>(call, 1);
-  RowWindow<s32> window(call.buffer.rows, call.buffer.ring, call.buffer.ringStep, rowPairs(shape.kernelHeight));
-  window.fill(make);
-  for (s64 y = 0;;) {
-    sumPairs(window.rows(), pairsOf(call.spec), shape, sums0, sums1);
-    finish(*call.spec, sums0, core::at(call.dst, y * call.dstStep), shape.elements);
-    if (++y == call.height) return;
-    finish(*call.spec, sums1, core::at(call.dst, y * call.dstStep), shape.elements);
-    if (++y == call.height) return;
-    window.moveDown(1, make);
-  }
+  walkDown<Block<s32>::kElements>(call, sumsOfPairs(*call.spec, T{}), rowPairs(call.spec->height), 1,
+                                  [&](s64 pair, s32* memory) {
+                                    const s64 y0 = std::min(2 * pair, last), y1 = std::min(2 * pair + 1, last);
+                                    makePairs(image, y0, y1, memory, constant, results);
+                                    return memory;
+                                  });
 }
 
 // ---- Floating point ----
 
-// Result rows that take the sums as they are.
-template <class T>
-struct InPlace {
-  const FilterCall<T>& call;
-  bool direct;  // rows are long enough for the sums to be written where they belong
-
-  T* target(s64 y, s64 which) const {
-    return direct && y < call.height ? core::at(call.dst, y * call.dstStep) : sumsOf<T>(call, which);
-  }
-  void finish(s64 y, const T* sums) const {
-    if (direct) return;
-    const auto bytes = static_cast<size_t>(call.width * call.channels) * sizeof(T);
-    std::memcpy(core::at(call.dst, y * call.dstStep), sums, bytes);
-  }
-};
-
-// Result rows that are made from the sums.
-template <class T, class V>
-struct Finished {
-  const FilterCall<T>& call;
-  FinishRow<T, V> finishRow;
-
-  V* target(s64, s64 which) const { return sumsOf<V>(call, which); }
-  void finish(s64 y, const V* sums) const {
-    finishRow(*call.spec, sums, core::at(call.dst, y * call.dstStep), call.width * call.channels);
-  }
-};
-
 // Unit: what rows are kept in. V: what sums and coefficients are.
-template <class Unit, class V, class T, class Results>
-RNX_INLINE void filterFloating(const FilterCall<T>& call, const Results& results) {
+template <class V, class Unit, class T>
+RNX_INLINE void filterFloating(const FilterCall<T>& call, SumTwoRows<Unit, T> sum) {
   const BorderedImage<T> image = imageOf(call);
-  const SumShape shape = shapeOf(call);
-  const s64 last = lastRow(call);
+  const s64 last = lastRow(call), results = call.width * call.channels;
   Unit constant[4] = {};
   for (s64 c = 0; c < call.channels && hasConstant(call); ++c) constant[c] = static_cast<Unit>(call.borderValue[c]);
-  const bool readInPlace = std::is_same_v<Unit, T> && image.complete() && shape.elements >= Block<V>::kElements;
-  const auto make = [&](s64 row, Unit* memory) -> const Unit* {
+  const bool readInPlace = image.complete() && results >= Block<V>::kElements;
+  walkDown<Block<V>::kElements>(call, sum, call.spec->height + 1, 2, [&](s64 row, Unit* memory) -> const Unit* {
     const s64 y = std::min(row, last);
     if constexpr (std::is_same_v<Unit, T>) {
       if (readInPlace) return image.row(y);
     }
-    makeRow(image, y, memory, constant, shape.elements);
+    makeRow(image, y, memory, constant, results);
     return memory;
-  };
-
-  RowWindow<Unit> window(call.buffer.rows, call.buffer.ring, call.buffer.ringStep, shape.kernelHeight + 1);
-  window.fill(make);
-  for (s64 y = 0;; window.moveDown(2, make)) {
-    V *const sums0 = results.target(y, 0), *const sums1 = results.target(y + 1, 1);
-    sumRows(window.rows(), kernelOf<V>(call.spec), shape, sums0, sums1);
-    results.finish(y, sums0);
-    if (++y == call.height) return;
-    results.finish(y, sums1);
-    if (++y == call.height) return;
-  }
+  });
 }
 
 template <class T>
 void filterUnrounded(const FilterCall<T>& call) {
-  const bool direct = call.width * call.channels >= Block<T>::kElements;
-  filterFloating<T, T>(call, InPlace<T>{call, direct});
+  filterFloating<T, T>(call, sumRows<T, T, T, Unrounded>);
 }
 
 template <class T>
 void filterRounded(const FilterCall<T>& call) {
-  filterFloating<f32, f32>(call, Finished<T, f32>{call, finishOfFloats<T>(*call.spec)});
+  filterFloating<f32, f32>(call, sumsOfFloats<T>(*call.spec));
 }
 
 template <class T>
 void filterWideInteger(const FilterCall<T>& call) {
-  filterFloating<f32, f64>(call, Finished<T, f64>{call, finishOfWideSums<T>(*call.spec)});
+  filterFloating<f64, f32>(call, sumsOfWideIntegers<T>(*call.spec));
 }
 
 }  // namespace

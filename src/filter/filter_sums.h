@@ -27,12 +27,12 @@ struct Block {
   static constexpr int kElements = 4 * Vec<V>::kLanes;
 
   Vec<V> a = Vec<V>::zero(), b = Vec<V>::zero(), c = Vec<V>::zero(), d = Vec<V>::zero();
-
-  RNX_INLINE void store(V* out) const {
-    constexpr int L = Vec<V>::kLanes;
-    a.store(out), b.store(out + L), c.store(out + 2 * L), d.store(out + 3 * L);
-  }
 };
+
+// Two result rows from the rows of a window. Results are written by Finish, which is made from the spec: store(out,
+// block) turns the sums of a block into elements.
+template <class Unit, class T>
+using SumTwoRows = void (*)(const Unit* const* rows, const FilterSpec& spec, const SumShape& shape, T* out0, T* out1);
 
 // Calls block(x) for blocks that cover [0, n): the last one ends at n, and a row shorter than a block is one whole
 // block.
@@ -55,7 +55,7 @@ RNX_INLINE void addRow(Block<V>& first, Block<V>& second, const Unit* p, const V
   for (s64 i = 0; i < shape.kernelWidth; ++i, p += shape.pixel) {
     const Vec<V> k0 = Vec<V>::splat(First ? kFirst[i] : V(0)), k1 = Vec<V>::splat(Second ? kSecond[i] : V(0));
     const auto add = [&](Vec<V> & sum0, Vec<V> & sum1, const Unit* at) __attribute__((always_inline)) {
-      const Vec<V> pixels = loadAs<V>(at);
+      const Vec<V> pixels = inRegister(loadAs<V>(at));
       if constexpr (First) sum0 = sum0 + pixels * k0;
       if constexpr (Second) sum1 = sum1 + pixels * k1;
     };
@@ -67,8 +67,10 @@ RNX_INLINE void addRow(Block<V>& first, Block<V>& second, const Unit* p, const V
 }
 
 // rows: kernelHeight + 1 rows. The first sum takes the kernel's rows from rows[0] on, the second from rows[1] on.
-template <class V, class Unit>
-void sumRows(const Unit* const* rows, const V* kernel, const SumShape& shape, V* out0, V* out1) {
+template <class V, class Unit, class T, class Finish>
+void sumRows(const Unit* const* rows, const FilterSpec& spec, const SumShape& shape, T* out0, T* out1) {
+  const Finish finish(spec);
+  const V* kernel = kernelOf<V>(&spec);
   const s64 width = shape.kernelWidth, height = shape.kernelHeight;
   forEachBlock<Block<V>::kElements>(
       shape.elements, [&](s64 x) __attribute__((always_inline)) {
@@ -79,8 +81,8 @@ void sumRows(const Unit* const* rows, const V* kernel, const SumShape& shape, V*
           addRow<true, true>(first, second, rows[j] + x, k, k - width, shape);
         }
         addRow<false, true>(first, second, rows[height] + x, kernel, kernel + (height - 1) * width, shape);
-        first.store(out0 + x);
-        second.store(out1 + x);
+        finish.store(out0 + x, first);
+        finish.store(out1 + x, second);
       });
 }
 
@@ -93,8 +95,11 @@ RNX_INLINE Vec<s32> splatPair(const s16 (&pair)[2]) {
 }
 
 // pairs: rowPairs(kernelHeight) rows of interleaved pixels of two image rows.
-inline void sumPairs(const s32* const* pairs, const PairTaps* taps, const SumShape& shape, s32* out0, s32* out1) {
+template <class T, class Finish>
+void sumPairs(const s32* const* pairs, const FilterSpec& spec, const SumShape& shape, T* out0, T* out1) {
   constexpr int L = Vec<s32>::kLanes;
+  const Finish finish(spec);
+  const PairTaps* taps = pairsOf(&spec);
   const s64 count = rowPairs(shape.kernelHeight);
   forEachBlock<Block<s32>::kElements>(
       shape.elements, [&](s64 x) __attribute__((always_inline)) {
@@ -105,7 +110,7 @@ inline void sumPairs(const s32* const* pairs, const PairTaps* taps, const SumSha
           for (s64 i = 0; i < shape.kernelWidth; ++i, ++tap, p += shape.pixel) {
             const Vec<s32> k0 = splatPair(tap->first), k1 = splatPair(tap->second);
             const auto add = [&](Vec<s32> & sum0, Vec<s32> & sum1, const s32* at) __attribute__((always_inline)) {
-              const Vec<s32> pixels = Vec<s32>::load(at);
+              const Vec<s32> pixels = inRegister(Vec<s32>::load(at));
               sum0 = sum0 + multiplyPairs(pixels, k0);
               sum1 = sum1 + multiplyPairs(pixels, k1);
             };
@@ -115,8 +120,8 @@ inline void sumPairs(const s32* const* pairs, const PairTaps* taps, const SumSha
             add(first.d, second.d, p + 3 * L);
           }
         }
-        first.store(out0 + x);
-        second.store(out1 + x);
+        finish.store(out0 + x, first);
+        finish.store(out1 + x, second);
       });
 }
 

@@ -96,6 +96,16 @@ RNX_INLINE Vec<u8> narrowInOrder(const Vec<s32> (&v)[4]) {
   return Vec<u8>::of(orderQuarters(RNX_MM(packus_epi16)(low, high)));
 }
 
+// The lower half of the vector.
+template <class T>
+RNX_INLINE void storeHalf(T* p, Vec<T> v) {
+#if RNX_VECTOR_BYTES == 32
+  _mm_storeu_si128(reinterpret_cast<__m128i*>(p), _mm256_castsi256_si128(v.bits()));
+#else
+  _mm_storel_epi64(reinterpret_cast<__m128i*>(p), v.bits());
+#endif
+}
+
 // ---- Pairs of 16-bit elements in lanes of 32 bits ----
 
 // a0*b0 + a1*b1 of each pair; wraps only where all four are -32768.
