@@ -5,8 +5,9 @@
 
 #include "rnxip/types.h"
 
+#include "rnxip/alpha.h"
 #include "rnxip/arith.h"
 #include "rnxip/core.h"
-#include "rnxip/filter.h"
+#include "rnxip/data.h"
 
 #endif

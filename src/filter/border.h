@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "core/types.h"
+#include "data/border_kernels.h"
 
 namespace rnx::filter {
 
@@ -31,9 +31,21 @@ struct Extent {
 };
 
 struct Border {
-  RnxiBorderType base;
+  data::Border kind;
   Extent columns, rows;
 };
+
+// Of a border type that is accepted. rnxBorderInMem alone needs none.
+inline data::Border kindOf(RnxiBorderType border) {
+  switch (baseOf(border)) {
+    case rnxBorderConst:
+      return data::Border::kConst;
+    case rnxBorderMirror:
+      return data::Border::kMirror;
+    default:
+      return data::Border::kReplicate;
+  }
+}
 
 // An operation of `mask` columns or rows with its anchor in the middle, rounded down. A reflected border of a mask of
 // two has one more position behind the image than the mask reaches.
@@ -58,7 +70,7 @@ inline Border borderOf(RnxiSize roi, RnxiSize mask, RnxiBorderType border) {
   const bool mirrored = baseOf(border) == rnxBorderMirror;
   const auto flag = [border](RnxiBorderType side) { return (border & side) != 0; };
   return {
-      .base = baseOf(border),
+      .kind = kindOf(border),
       .columns = extentOf(roi.width, mask.width, flag(rnxBorderInMemLeft), flag(rnxBorderInMemRight), mirrored),
       .rows = extentOf(roi.height, mask.height, flag(rnxBorderInMemTop), flag(rnxBorderInMemBottom), mirrored),
   };

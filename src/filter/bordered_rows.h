@@ -17,14 +17,9 @@ namespace {
 inline constexpr s64 kConstant = -1;
 
 // The position in [0, size) whose pixel stands at position p, or kConstant.
-RNX_INLINE s64 sourcePosition(RnxiBorderType base, s64 p, s64 size) {
-  if (p >= 0 && p < size) return p;
-  if (base == rnxBorderConst) return kConstant;
-  if (base == rnxBorderRepl) return p < 0 ? 0 : size - 1;
-  if (size == 1) return 0;
-  const s64 period = 2 * size - 2;  // reflection about both edge pixels, which are not repeated
-  const s64 r = p % period, phase = r < 0 ? r + period : r;
-  return phase < size ? phase : period - phase;
+RNX_INLINE s64 sourcePosition(data::Border kind, s64 p, s64 size) {
+  const bool inside = p >= 0 && p < size;
+  return !inside && kind == data::Border::kConst ? kConstant : data::borderSource(kind, p, size);
 }
 
 // The rows of one image.
@@ -38,7 +33,7 @@ public:
         step_(step),
         channels_(channels),
         constantRow_(constantRow) {
-    if (border.base != rnxBorderConst) return;
+    if (border.kind != data::Border::kConst) return;
     const s64 n = elements();
     for (s64 c = 0; c < channels; ++c) {
       for (s64 i = c; i < n; i += channels) constantRow[i] = borderValue[c];
@@ -55,7 +50,7 @@ public:
 
   // The part of a row that lies in memory.
   const T* row(s64 y) const {
-    const s64 source = sourcePosition(border_.base, y - border_.rows.producedBefore, border_.rows.size);
+    const s64 source = sourcePosition(border_.kind, y - border_.rows.producedBefore, border_.rows.size);
     return source == kConstant ? constantRow_ : core::at(first_, source * step_);
   }
 
@@ -76,7 +71,7 @@ public:
 private:
   template <class Unit>
   RNX_INLINE void copyPixel(Unit* first, s64 x, const Unit* constant) const {
-    const s64 source = sourcePosition(border_.base, x, border_.columns.size);
+    const s64 source = sourcePosition(border_.kind, x, border_.columns.size);
     const Unit* from = source == kConstant ? constant : first + source * channels_;
     for (s64 c = 0; c < channels_; ++c) first[x * channels_ + c] = from[c];
   }

@@ -79,7 +79,7 @@ RNX_INLINE void makePairs(const BorderedImage<T>& image, s64 y0, s64 y1, s32* me
 
 template <class T>
 bool hasConstant(const FilterCall<T>& call) {
-  return call.border.base == rnxBorderConst;
+  return call.border.kind == data::Border::kConst;
 }
 
 // Walks down the image: `sum` makes two result rows from a window of `count` rows, which then moves down by `steps`.

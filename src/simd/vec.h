@@ -45,8 +45,15 @@ struct Vec {
 
   static RNX_INLINE Vec of(Int r) { return {reinterpret_cast<Raw>(r)}; }
   static RNX_INLINE Vec zero() { return {Raw{}}; }
-  // v - 0 is v for every float; 0 + v would turn -0.0 into 0.0.
-  static RNX_INLINE Vec splat(T v) { return {v - Raw{}}; }
+  // Not `Raw{} + v` for floats: that turns -0.0 into 0.0.
+  static RNX_INLINE Vec splat(T v) {
+    if constexpr (std::is_same_v<T, float>)
+      return {RNX_MM(set1_ps)(v)};
+    else if constexpr (std::is_same_v<T, double>)
+      return {RNX_MM(set1_pd)(v)};
+    else
+      return {Raw{} + v};
+  }
   static RNX_INLINE Vec load(const T* p) {
     return {reinterpret_cast<Raw>(RNX_MM(loadu_ps)(reinterpret_cast<const float*>(p)))};
   }
@@ -126,6 +133,8 @@ RNX_INLINE bool anySet(Vec<T> mask) {
 // clang-format off
 RNX_INLINE Vec<u8> min(Vec<u8> a, Vec<u8> b) { return Vec<u8>::of(RNX_MM(min_epu8)(a.bits(), b.bits())); }
 RNX_INLINE Vec<u8> max(Vec<u8> a, Vec<u8> b) { return Vec<u8>::of(RNX_MM(max_epu8)(a.bits(), b.bits())); }
+RNX_INLINE Vec<s8> min(Vec<s8> a, Vec<s8> b) { return Vec<s8>::of(RNX_MM(min_epi8)(a.bits(), b.bits())); }
+RNX_INLINE Vec<s8> max(Vec<s8> a, Vec<s8> b) { return Vec<s8>::of(RNX_MM(max_epi8)(a.bits(), b.bits())); }
 RNX_INLINE Vec<u16> min(Vec<u16> a, Vec<u16> b) { return Vec<u16>::of(RNX_MM(min_epu16)(a.bits(), b.bits())); }
 RNX_INLINE Vec<u16> max(Vec<u16> a, Vec<u16> b) { return Vec<u16>::of(RNX_MM(max_epu16)(a.bits(), b.bits())); }
 RNX_INLINE Vec<s16> min(Vec<s16> a, Vec<s16> b) { return Vec<s16>::of(RNX_MM(min_epi16)(a.bits(), b.bits())); }
