@@ -6,6 +6,7 @@
 #pragma once
 
 #include "filter/filter_sums.h"
+#include "simd/cast.h"
 
 namespace rnx::filter {
 namespace {
@@ -197,7 +198,7 @@ private:
 struct Unrounded {
   explicit Unrounded(const FilterSpec&) {}
   template <class T>
-  RNX_INLINE void store(T* out, const Block<T>& sums) const {
+  RNX_INLINE void store(T* out, const SumBlock<T>& sums) const {
     constexpr int L = Vec<T>::kLanes;
     sums.a.store(out), sums.b.store(out + L), sums.c.store(out + 2 * L), sums.d.store(out + 3 * L);
   }
@@ -210,13 +211,10 @@ public:
   explicit Rounded(const FilterSpec& s) : result_(s) {}
 
   template <class V>
-  RNX_INLINE void store(T* out, const Block<V>& sums) const {
-    if constexpr (sizeof(T) == 1) {
-      narrowInOrder<T>({result_(sums.a), result_(sums.b), result_(sums.c), result_(sums.d)}).store(out);
-    } else {
-      narrowInOrder<T>({result_(sums.a), result_(sums.b)}).store(out);
-      narrowInOrder<T>({result_(sums.c), result_(sums.d)}).store(out + Vec<T>::kLanes);
-    }
+  RNX_INLINE void store(T* out, const SumBlock<V>& sums) const {
+    const Block<s32, SumBlock<V>::kElements> results = {
+        {result_(sums.a), result_(sums.b), result_(sums.c), result_(sums.d)}};
+    narrowTo<T>(results).store(out);
   }
 
 private:
@@ -229,12 +227,13 @@ class RoundedWide {
 public:
   explicit RoundedWide(const FilterSpec& s) : result_(s) {}
 
-  RNX_INLINE void store(T* out, const Block<f64>& sums) const {
+  RNX_INLINE void store(T* out, const SumBlock<f64>& sums) const {
     const Vec<s32> low = result_(sums.a, sums.b), high = result_(sums.c, sums.d);
+    constexpr int L = Vec<s32>::kLanes;
     if constexpr (sizeof(T) == 1) {
-      storeHalf(out, narrowInOrder<T>({low, high, low, high}));
+      storeHalf(out, narrowTo<T>(Block<s32, 4 * L>{{low, high, low, high}}).v[0]);
     } else {
-      narrowInOrder<T>({low, high}).store(out);
+      narrowTo<T>(Block<s32, 2 * L>{{low, high}}).store(out);
     }
   }
 

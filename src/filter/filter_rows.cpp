@@ -60,9 +60,11 @@ RNX_INLINE void endRow(Unit* row, s64 n, s64 results) {
 template <class Unit, class T>
 RNX_INLINE void makeRow(const BorderedImage<T>& image, s64 y, Unit* memory, const Unit* constant, s64 results) {
   const T* row = image.row(y);
-  convertRow<Vec<Unit>::kLanes>(
+  constexpr int kGroup = kStepOf<T, Unit>;
+  convertRow<kGroup>(
       image.inMemory(memory), row, row, image.elements(),
-      [](Unit * out, const T* in, const T*) __attribute__((always_inline)) { loadAs<Unit>(in).store(out); });
+      [](Unit * out, const T* in, const T*)
+          __attribute__((always_inline)) { widenTo<Unit>(Block<T, kGroup>::load(in)).store(out); });
   image.produceSides(memory, constant);
   endRow(memory, image.borderedElements(), results);
 }
@@ -120,12 +122,12 @@ void filterInteger(const FilterCall<T>& call) {
     const auto value = static_cast<u16>(call.borderValue[c]);
     constant[c] = static_cast<s32>(value | u32{value} << 16);
   }
-  walkDown<Block<s32>::kElements>(call, sumsOfPairs(*call.spec, T{}), rowPairs(call.spec->height), 1,
-                                  [&](s64 pair, s32* memory) {
-                                    const s64 y0 = std::min(2 * pair, last), y1 = std::min(2 * pair + 1, last);
-                                    makePairs(image, y0, y1, memory, constant, results);
-                                    return memory;
-                                  });
+  walkDown<SumBlock<s32>::kElements>(call, sumsOfPairs(*call.spec, T{}), rowPairs(call.spec->height), 1,
+                                     [&](s64 pair, s32* memory) {
+                                       const s64 y0 = std::min(2 * pair, last), y1 = std::min(2 * pair + 1, last);
+                                       makePairs(image, y0, y1, memory, constant, results);
+                                       return memory;
+                                     });
 }
 
 // ---- Floating point ----
@@ -137,8 +139,8 @@ RNX_INLINE void filterFloating(const FilterCall<T>& call, SumTwoRows<Unit, T> su
   const s64 last = lastRow(call), results = call.width * call.channels;
   Unit constant[4] = {};
   for (s64 c = 0; c < call.channels && hasConstant(call); ++c) constant[c] = static_cast<Unit>(call.borderValue[c]);
-  const bool readInPlace = image.complete() && results >= Block<V>::kElements;
-  walkDown<Block<V>::kElements>(call, sum, call.spec->height + 1, 2, [&](s64 row, Unit* memory) -> const Unit* {
+  const bool readInPlace = image.complete() && results >= SumBlock<V>::kElements;
+  walkDown<SumBlock<V>::kElements>(call, sum, call.spec->height + 1, 2, [&](s64 row, Unit* memory) -> const Unit* {
     const s64 y = std::min(row, last);
     if constexpr (std::is_same_v<Unit, T>) {
       if (readInPlace) return image.row(y);

@@ -8,12 +8,21 @@
 #include <cstring>
 
 #include "filter/filter_spec.h"
-#include "simd/order.h"
+#include "simd/halves.h"
+#include "simd/pairs.h"
 
 namespace rnx::filter {
 namespace {
 
 using namespace simd;
+
+// Units in the precision of the sums.
+template <class V>
+RNX_INLINE Vec<V> loadUnits(const V* p) {
+  return Vec<V>::load(p);
+}
+template <class V>
+requires std::is_same_v<V, f64> RNX_INLINE Vec<V> loadUnits(const f32* p) { return loadHalfAsDouble(p); }
 
 // The next column of the kernel lies `pixel` elements further in a row.
 struct SumShape {
@@ -23,7 +32,7 @@ struct SumShape {
 };
 
 template <class V>
-struct Block {
+struct SumBlock {
   static constexpr int kElements = 4 * Vec<V>::kLanes;
 
   Vec<V> a = Vec<V>::zero(), b = Vec<V>::zero(), c = Vec<V>::zero(), d = Vec<V>::zero();
@@ -49,13 +58,13 @@ RNX_INLINE void forEachBlock(s64 n, F block) {
 
 // One row of the kernel, for the first and the second result row: they meet an image row with different kernel rows.
 template <bool First, bool Second, class V, class Unit>
-RNX_INLINE void addRow(Block<V>& first, Block<V>& second, const Unit* p, const V* kFirst, const V* kSecond,
+RNX_INLINE void addRow(SumBlock<V>& first, SumBlock<V>& second, const Unit* p, const V* kFirst, const V* kSecond,
                        const SumShape& shape) {
   constexpr int L = Vec<V>::kLanes;
   for (s64 i = 0; i < shape.kernelWidth; ++i, p += shape.pixel) {
     const Vec<V> k0 = Vec<V>::splat(First ? kFirst[i] : V(0)), k1 = Vec<V>::splat(Second ? kSecond[i] : V(0));
     const auto add = [&](Vec<V> & sum0, Vec<V> & sum1, const Unit* at) __attribute__((always_inline)) {
-      const Vec<V> pixels = inRegister(loadAs<V>(at));
+      const Vec<V> pixels = inRegister(loadUnits<V>(at));
       if constexpr (First) sum0 = sum0 + pixels * k0;
       if constexpr (Second) sum1 = sum1 + pixels * k1;
     };
@@ -72,9 +81,9 @@ void sumRows(const Unit* const* rows, const FilterSpec& spec, const SumShape& sh
   const Finish finish(spec);
   const V* kernel = kernelOf<V>(&spec);
   const s64 width = shape.kernelWidth, height = shape.kernelHeight;
-  forEachBlock<Block<V>::kElements>(
+  forEachBlock<SumBlock<V>::kElements>(
       shape.elements, [&](s64 x) __attribute__((always_inline)) {
-        Block<V> first, second;
+        SumBlock<V> first, second;
         addRow<true, false>(first, second, rows[0] + x, kernel, kernel, shape);
         for (s64 j = 1; j < height; ++j) {
           const V* k = kernel + j * width;
@@ -101,9 +110,9 @@ void sumPairs(const s32* const* pairs, const FilterSpec& spec, const SumShape& s
   const Finish finish(spec);
   const PairTaps* taps = pairsOf(&spec);
   const s64 count = rowPairs(shape.kernelHeight);
-  forEachBlock<Block<s32>::kElements>(
+  forEachBlock<SumBlock<s32>::kElements>(
       shape.elements, [&](s64 x) __attribute__((always_inline)) {
-        Block<s32> first, second;
+        SumBlock<s32> first, second;
         const PairTaps* tap = taps;
         for (s64 j = 0; j < count; ++j) {
           const s32* p = pairs[j] + x;
