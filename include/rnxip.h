@@ -10,5 +10,6 @@
 #include "rnxip/core.h"
 #include "rnxip/data.h"
 #include "rnxip/fft.h"
+#include "rnxip/filter.h"
 
 #endif
