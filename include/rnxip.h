@@ -7,5 +7,6 @@
 
 #include "rnxip/arith.h"
 #include "rnxip/core.h"
+#include "rnxip/geom.h"
 
 #endif
