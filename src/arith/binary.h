@@ -60,6 +60,7 @@ struct Sub {
   template <class T, RightOperand R>
   static Choice<T> choose(const IntegerKernels<T>& k, int scaleFactor) {
     if (scaleFactor == 0) return {&k.sub, 0};
+    if (scaleFactor == 1) return {&k.subHalf, 1};
     if (scaleFactor < 0) return {&k.subLeft, leftShift<T>(scaleFactor)};
     return {scaleFactor <= kLargestFactor<T, R> ? &k.subRight : nullptr, scaleFactor};
   }
@@ -89,7 +90,7 @@ struct Div {
   // Division by 0 has its own result at every factor, so no factor is too large for the kernel.
   template <class T, RightOperand R>
   static Choice<T> choose(const IntegerKernels<T>& k, int scaleFactor) {
-    return {&k.divEven, scaleFactor};
+    return {scaleFactor < 0 ? &k.divEvenLeft : &k.divEven, 0};
   }
   static const BinaryForms<f32>& choose(const FloatKernels& k) { return k.div; }
 };
@@ -200,10 +201,9 @@ RnxStatus divideRounded(const T* src1, int src1Step, const T* src2, int src2Step
   const BinaryCall<T> call =
       planImages<L>(src2, src2Step, src1, src1Step, dst, dstStep, roi, divisionFactor(scaleFactor));
   const IntegerKernels<T>& k = kernels<T>(call.rows.bytesMoved);
-  return runImages<L>(roundMode == rnxRoundZero          ? k.divZero
-                      : roundMode == rnxRoundNearestEven ? k.divEven
-                                                         : k.divAway,
-                      call);
+  const BinaryForms<T>* const byMode[2][3] = {{&k.divZero, &k.divEven, &k.divAway},
+                                              {&k.divZeroLeft, &k.divEvenLeft, &k.divAwayLeft}};
+  return runImages<L>(*byMode[scaleFactor < 0][roundMode], call);
 }
 
 // ---- An image and a constant: a value for C1, otherwise an array with one value per channel that is used ----

@@ -30,13 +30,15 @@ struct BinaryForms {
   BinaryKernel<T> images, constant, imagesAlpha, constantAlpha;
 };
 
-// The exact result is shifted right with rounding half to even, or left; then it is saturated.
+// The exact result is shifted right with rounding half to even, or left; then it is saturated. Half stands for a shift
+// by one to the right, Right for more. Quotients are scaled up by the Left kernels, down by the others.
 template <class T>
 struct IntegerKernels {
   BinaryForms<T> add, addHalf, addRight, addLeft;
-  BinaryForms<T> sub, subRight, subLeft;
+  BinaryForms<T> sub, subHalf, subRight, subLeft;
   BinaryForms<T> mulRight, mulLeft;
   BinaryForms<T> divZero, divEven, divAway;  // by rounding mode
+  BinaryForms<T> divZeroLeft, divEvenLeft, divAwayLeft;
 };
 
 struct FloatKernels {

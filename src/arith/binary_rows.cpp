@@ -1,4 +1,6 @@
 // Row kernels of Add, Sub, Mul and Div. A kernel is a functor of two vectors in the loop of simd/rows.h.
+#include <algorithm>
+
 #include "arith/binary_kernels.h"
 #include "simd/convert.h"
 #include "simd/rows.h"
@@ -47,21 +49,24 @@ struct Mul {
 
 // ---- Scaling of exact results; what comes out only needs the saturation of narrow() ----
 
-// v / 2^n for n above 0, half to even. Signed lanes have headroom for the half: 8-bit sums shift by at most 9, sums of
-// 16 bits by at most 17, and a product of two 16s is at most 2^30 and shifts by at most 30.
+// v / 2^n for n above 0, half to even: (v + half) >> n, less 1 where v + half is an odd multiple of 2^n, which is a tie
+// that went up to an odd value. Signed lanes have headroom for the half: 8-bit sums shift by at most 9, sums of 16 bits
+// by at most 17, and a product of two 16s is at most 2^30 and shifts by at most 30.
 template <class W>
 class Right {
 public:
-  explicit Right(int n) : n_(n), belowHalf_(Vec<W>::splat(static_cast<W>((W(1) << (n - 1)) - 1))) {}
+  explicit Right(int n)
+      : n_(shiftCount(n)),
+        half_(Vec<W>::splat(static_cast<W>(W(1) << (n - 1)))),
+        step_(Vec<W>::splat(static_cast<W>(u64{1} << n))),
+        below_(Vec<W>::splat(static_cast<W>((u64{2} << n) - 1))) {}
 
-  RNX_INLINE Vec<W> operator()(Vec<W> v) const {
-    const Vec<W> odd = shiftRight(v, n_) & Vec<W>::splat(1);
-    return shiftRight(v + belowHalf_ + odd, n_);
-  }
+  RNX_INLINE Vec<W> operator()(Vec<W> v) const { return ofSumWithHalf(v + half_); }
+  RNX_INLINE Vec<W> ofSumWithHalf(Vec<W> u) const { return shiftRight(u, n_) + equal(u & below_, step_); }
 
 private:
-  int n_;
-  Vec<W> belowHalf_;
+  ShiftCount n_;
+  Vec<W> half_, step_, below_;
 };
 
 // Unsigned products may fill the lane: the quotient is incremented where the rest is above half, or half and the
@@ -71,7 +76,7 @@ requires std::is_unsigned_v<W>
 class Right<W> {
 public:
   explicit Right(int n)
-      : n_(n),
+      : n_(shiftCount(n)),
         restBits_(Vec<W>::splat(static_cast<W>((u64{1} << n) - 1))),
         aboveHalf_(Vec<W>::splat(static_cast<W>((u64{1} << (n - 1)) + 1))) {}
 
@@ -83,7 +88,7 @@ public:
   }
 
 private:
-  int n_;
+  ShiftCount n_;
   Vec<W> restBits_, aboveHalf_;
 };
 
@@ -92,7 +97,7 @@ template <class W, class T>
 class Left {
 public:
   explicit Left(int n)
-      : n_(n),
+      : n_(shiftCount(n)),
         low_(Vec<W>::splat(static_cast<W>((kMin<T> >> n) - 1))),
         high_(Vec<W>::splat(static_cast<W>((kMax<T> >> n) + 1))) {}
 
@@ -102,7 +107,7 @@ public:
   }
 
 private:
-  int n_;
+  ShiftCount n_;
   Vec<W> low_, high_;
 };
 
@@ -156,68 +161,178 @@ using ScaledRight = Scaled<T, Op, Right>;
 template <class T, class Op>
 using ScaledLeft = Scaled<T, Op, Left, T>;
 
+// ---- 16s shifted right, in fewer steps than through the wide lanes ----
+
+// floor(sum / 2) and the bit lost say all about a sum of 17 bits, in 16-bit lanes. Averages are those of unsigned
+// values, so values are moved by 2^15: average(a, b) rounds up, and average(a, ~b) is floor((a - b) / 2) + 2^15.
+struct HalfOfSum {
+  static RNX_INLINE Vec<u16> moved(Vec<s16> a, Vec<s16> b, Vec<s16> lost) {
+    const Vec<s16> bias = Vec<s16>::splat(INT16_MIN);
+    return average((a ^ bias).as<u16>(), (b ^ bias).as<u16>()) - lost.as<u16>();
+  }
+};
+struct HalfOfDifference {
+  static RNX_INLINE Vec<u16> moved(Vec<s16> a, Vec<s16> b, Vec<s16>) {
+    return average((a ^ Vec<s16>::splat(INT16_MIN)).as<u16>(), (b ^ Vec<s16>::splat(INT16_MAX)).as<u16>());
+  }
+};
+
+// With h = floor(sum / 2) and n = scaleFactor - 1 from 1 to 15:
+//   (h + 2^(n-1) - 1 + odd) >> n,  odd = (bit n of h) or (bit lost)
+// where the first halving of the shift is one more average, which cannot overflow.
+template <class Half>
+class SumRight : public NoDivision<s16> {
+public:
+  explicit SumRight(const BinaryCall<s16>& call)
+      : NoDivision(call),
+        n_(shiftCount(call.shift - 1)),
+        rest_(shiftCount(call.shift - 2)),
+        addend_(Vec<s16>::splat(static_cast<s16>((1 << (call.shift - 2)) - 2 + INT16_MIN))) {}
+
+  RNX_INLINE Vec<s16> operator()(Vec<s16> a, Vec<s16> b) const {
+    const Vec<s16> one = Vec<s16>::splat(1), bias = Vec<s16>::splat(INT16_MIN);
+    const Vec<s16> lost = (a ^ b) & one;
+    const Vec<u16> half = Half::moved(a, b, lost);
+    const Vec<s16> odd = (shiftRight(half.template as<s16>() ^ bias, n_) | lost) & one;
+    return shiftRight(average(half, (addend_ + odd).as<u16>()).template as<s16>() ^ bias, rest_);
+  }
+
+private:
+  ShiftCount n_, rest_;
+  Vec<s16> addend_;
+};
+
+// A sum of two products takes the product and the half in one step: a * b + p * q with p * q = half.
+class ProductRight : public NoDivision<s16> {
+public:
+  explicit ProductRight(const BinaryCall<s16>& call)
+      : NoDivision(call),
+        right_(call.shift),
+        p_(Vec<s16>::splat(static_cast<s16>(-(1 << std::min(call.shift - 1, 15))))),
+        q_(Vec<s16>::splat(static_cast<s16>(-(1 << std::max(call.shift - 16, 0))))) {}
+
+  RNX_INLINE Vec<s16> operator()(Vec<s16> a, Vec<s16> b) const {
+    const Pair<s32> withHalf = addProducts(a, b, p_, q_);
+    return narrow<s16>(Pair<s32>{right_.ofSumWithHalf(withHalf.lo), right_.ofSumWithHalf(withHalf.hi)});
+  }
+
+private:
+  Right<s32> right_;
+  Vec<s16> p_, q_;
+};
+
 // ---- Division ----
 
-// The quotient is formed in floating point, scaled by a power of two, then rounded once. That is exact: a quotient of
-// m-bit integers that is not a tie keeps a relative distance of 2^-(2m+1) from every tie (2^-17 for 8 bits, 2^-33 for
-// 16 bits), which the 2^-24 of single and the 2^-53 of double precision resolve.
-template <class Rounding, class F>
-RNX_INLINE Vec<F> quotient(Vec<F> a, Vec<F> b, Vec<F> factor, Vec<F> low, Vec<F> high) {
-  return min(max(Rounding::round(a * factor / b), low), high);
-}
+// The quotient is formed in floating point, scaled by a power of two, then rounded once. It must not fall on a tie that
+// the exact quotient only comes near to. A quotient x / d of integers that is not a tie keeps a distance of 1 / (2d)
+// from every tie, which is 1 / (2x) of itself. Single precision, with its 2^-24, therefore serves dividends below 2^23:
+// 8u always, as x is below 2^16 where the result does not saturate, and 16 bits unless they are scaled up.
+// What surrounds the quotient: divisors of 0 are replaced by 1, their results by the division rule.
+template <class T, class Channels>
+class ZeroDivisors {
+public:
+  RNX_INLINE Vec<T> replaced(Vec<T> b) {
+    zero_ = equal(b, Vec<T>::zero());
+    met_ = met_ | Channels::merge(zero_.template as<T>(), Vec<T>::zero());
+    return b - zero_.template as<T>();  // all ones are -1
+  }
 
-template <class T, class Rounding, class Channels>
+  // The largest value for a positive dividend, the smallest for a negative one, 0 for 0.
+  RNX_INLINE Vec<T> result(Vec<T> a, Vec<T> quotient) const {
+    Vec<T> byZero = ~equal(a, Vec<T>::zero()).template as<T>();  // the largest unsigned value
+    if constexpr (std::is_signed_v<T>) {
+      byZero = (greater(a, Vec<T>::zero()) & Vec<T>::splat(kMax<T>)) | (a & Vec<T>::splat(kMin<T>));
+    }
+    return select(zero_, byZero, quotient);
+  }
+
+  bool met() const { return anySet(met_); }
+
+private:
+  Mask<T> zero_ = Mask<T>::zero();
+  Vec<T> met_ = Vec<T>::zero();
+};
+
+// ScaledUp says that the scale factor is negative: then 16 bits need double precision, and quotients need limits before
+// they become integers. Others lie within [-2^15, 2^15], or are those of unsigned values.
+template <class T, class Rounding, bool ScaledUp, class Channels>
 class Divide {
 public:
   explicit Divide(const BinaryCall<T>& call) : factor_(Vec<F>::splat(F(call.factor))) {}
 
   RNX_INLINE Vec<T> operator()(Vec<T> a, Vec<T> b) {
-    Vec<T> zero = equal(b, Vec<T>::zero()).template as<T>();
-    const Vec<T> rounded = divide(a, b - zero);  // all ones are -1: a zero divisor becomes 1
-    const Vec<T> result = select(zero.template as<typename MaskOf<sizeof(T)>::Type>(), byZero(a), rounded);
-    zeros_ = zeros_ | Channels::merge(zero, Vec<T>::zero());
-    return result;
+    const Vec<T> divisor = zeros_.replaced(b);
+    if constexpr (sizeof(T) == 1) {
+      const Pair<u16> x = widen<u16>(a), y = widen<u16>(divisor);
+      return zeros_.result(a,
+                           narrow<u8>(Pair<u16>{narrow<u16>(ofLanes(x.lo, y.lo)), narrow<u16>(ofLanes(x.hi, y.hi))}));
+    } else {
+      return zeros_.result(a, narrow<T>(ofLanes(a, divisor)));
+    }
   }
 
-  bool metZeroDivisor() const { return anySet(zeros_); }
+  bool metZeroDivisor() const { return zeros_.met(); }
 
 private:
-  using F = std::conditional_t<sizeof(T) == 1, f32, f64>;
+  using F = std::conditional_t<ScaledUp && sizeof(T) == 2, f64, f32>;
 
-  // The largest value for a positive dividend, the smallest for a negative one, 0 for 0.
-  static RNX_INLINE Vec<T> byZero(Vec<T> a) {
-    const Vec<T> positive = greater(a, Vec<T>::zero()).template as<T>() & Vec<T>::splat(kMax<T>);
-    if constexpr (std::is_unsigned_v<T>) return positive;
-    return positive | (a & Vec<T>::splat(kMin<T>));
+  template <class I>
+  RNX_INLINE Pair<s32> ofLanes(Vec<I> a, Vec<I> b) const {
+    const Pair<s32> x = widen<s32>(a), y = widen<s32>(b);
+    return {ofLanes(x.lo, y.lo), ofLanes(x.hi, y.hi)};
   }
-
-  RNX_INLINE Vec<F> one(Vec<F> a, Vec<F> b) const {
-    return quotient<Rounding>(a, b, factor_, Vec<F>::splat(F(kMin<T>)), Vec<F>::splat(F(kMax<T>)));
-  }
-  RNX_INLINE Vec<s32> divide(Vec<s32> a, Vec<s32> b) const {
-    if constexpr (sizeof(T) == 1) {
-      return truncateToInt(one(toFloat(a), toFloat(b)));
+  RNX_INLINE Vec<s32> ofLanes(Vec<s32> a, Vec<s32> b) const {
+    if constexpr (std::is_same_v<F, f32>) {
+      return truncateToInt(quotient(toFloat(a), toFloat(b)));
     } else {
       const Pair<f64> x = toDouble(a), y = toDouble(b);
-      return truncateToInt(Pair<f64>{one(x.lo, y.lo), one(x.hi, y.hi)});
+      return truncateToInt(Pair<f64>{quotient(x.lo, y.lo), quotient(x.hi, y.hi)});
     }
   }
-  template <class I>
-  RNX_INLINE Pair<s32> divideWidened(Vec<I> a, Vec<I> b) const {
-    const Pair<s32> x = widen<s32>(a), y = widen<s32>(b);
-    return {divide(x.lo, y.lo), divide(x.hi, y.hi)};
-  }
-  RNX_INLINE Vec<T> divide(Vec<T> a, Vec<T> b) const {
-    if constexpr (sizeof(T) == 1) {
-      const Pair<s16> x = widen<s16>(a), y = widen<s16>(b);
-      return narrow<T>(Pair<s16>{narrow<s16>(divideWidened(x.lo, y.lo)), narrow<s16>(divideWidened(x.hi, y.hi))});
-    } else {
-      return narrow<T>(divideWidened(a, b));
-    }
+  RNX_INLINE Vec<F> quotient(Vec<F> a, Vec<F> b) const {
+    Vec<F> q = Rounding::round(a * factor_ / b);
+    if constexpr (ScaledUp && std::is_signed_v<T>) q = max(q, Vec<F>::splat(F(kMin<T>)));
+    if constexpr (ScaledUp) q = min(q, Vec<F>::splat(F(kMax<T>)));
+    return q;
   }
 
   Vec<F> factor_;
-  Vec<T> zeros_ = Vec<T>::zero();
+  ZeroDivisors<T, Channels> zeros_;
+};
+
+// 8u by one constant, half to even, without a division. With d = divisor * 2^scaleFactor:
+//   q = floor((2a + d) / 2d), less 1 where the division leaves no rest, which is a tie that went up, and q is odd.
+// The division by 2d is a multiplication by m = ceil(2^(10+s) / 2d), where s gives m 16 bits. It is exact for
+// numerators below 2^15; they are below 2^10, because from d = 510 on everything rounds to 0 (m = 0 does that).
+class DivideByOne : public NoDivision<u8> {
+public:
+  explicit DivideByOne(const BinaryCall<u8>& call) : NoDivision(call) {
+    const u64 d = static_cast<u64>(static_cast<f32>(call.right[0]) / call.factor);
+    if (d >= 510) return;
+    int s = 6;
+    while ((u64{1} << (10 + s)) / (2 * d) < 0x8000) ++s;
+    divisor64_ = splat(d << 6);
+    twice_ = splat(2 * d);
+    multiplier_ = splat(((u64{1} << (10 + s)) + 2 * d - 1) / (2 * d));
+    shift_ = splat(u64{1} << (16 - s));
+  }
+
+  RNX_INLINE Vec<u8> operator()(Vec<u8> a, Vec<u8>) const {
+    const Pair<u16> x = widen<u16>(a);
+    return narrow<u8>(Pair<u16>{one(x.lo), one(x.hi)});
+  }
+
+private:
+  static Vec<u16> splat(u64 v) { return Vec<u16>::splat(static_cast<u16>(v)); }
+
+  RNX_INLINE Vec<u16> one(Vec<u16> a) const {
+    const Vec<u16> numerator = shiftLeft<7>(a) + divisor64_;  // times 64
+    const Vec<u16> q = multiplyHigh(multiplyHigh(numerator, multiplier_), shift_);
+    const Vec<u16> tie = equal(shiftLeft<6>(q * twice_), numerator).as<u16>();
+    return q - (q & tie & Vec<u16>::splat(1));
+  }
+
+  Vec<u16> divisor64_ = splat(0), twice_ = splat(0), multiplier_ = splat(0), shift_ = splat(0);
 };
 
 // ---- 32f: the operations of IEEE 754 ----
@@ -271,10 +386,11 @@ template <class T, class FAll, class FColors = FAll>
 constexpr BinaryForms<T> kForms = {images<T, FAll, AllChannels<T>>, constant<T, FAll, AllChannels<T>>,
                                    images<T, FColors, ColorChannels<T>>, constant<T, FColors, ColorChannels<T>>};
 
-template <class T, class Rounding>
+template <class T, class Rounding, bool ScaledUp>
 constexpr BinaryForms<T> kDivide =
-    kForms<T, Divide<T, Rounding, AllChannels<T>>, Divide<T, Rounding, ColorChannels<T>>>;
+    kForms<T, Divide<T, Rounding, ScaledUp, AllChannels<T>>, Divide<T, Rounding, ScaledUp, ColorChannels<T>>>;
 
+// What all types share.
 template <class T>
 constexpr IntegerKernels<T> kIntegerKernels = {
     .add = kForms<T, AddSaturated<T>>,
@@ -282,23 +398,46 @@ constexpr IntegerKernels<T> kIntegerKernels = {
     .addRight = kForms<T, ScaledRight<T, Add>>,
     .addLeft = kForms<T, ScaledLeft<T, Add>>,
     .sub = kForms<T, SubSaturated<T>>,
+    .subHalf = kForms<T, ScaledRight<T, Sub>>,
     .subRight = kForms<T, ScaledRight<T, Sub>>,
     .subLeft = kForms<T, ScaledLeft<T, Sub>>,
     .mulRight = kForms<T, ScaledRight<T, Mul>>,
     .mulLeft = kForms<T, ScaledLeft<T, Mul>>,
-    .divZero = kDivide<T, RoundZero>,
-    .divEven = kDivide<T, RoundNearestEven>,
-    .divAway = kDivide<T, RoundHalfAway>,
+    .divZero = kDivide<T, RoundZero, false>,
+    .divEven = kDivide<T, RoundNearestEven, false>,
+    .divAway = kDivide<T, RoundHalfAway, false>,
+    .divZeroLeft = kDivide<T, RoundZero, true>,
+    .divEvenLeft = kDivide<T, RoundNearestEven, true>,
+    .divAwayLeft = kDivide<T, RoundHalfAway, true>,
 };
+
+bool divideByConstant(const BinaryCall<u8>& call) {
+  using Any = Divide<u8, RoundNearestEven, false, AllChannels<u8>>;
+  return call.period == 1 ? constant<u8, DivideByOne, AllChannels<u8>>(call) : constant<u8, Any, AllChannels<u8>>(call);
+}
+
+constexpr IntegerKernels<u8> of8u() {
+  IntegerKernels<u8> kernels = kIntegerKernels<u8>;
+  kernels.divEven.constant = divideByConstant;
+  return kernels;
+}
+
+constexpr IntegerKernels<s16> of16s() {
+  IntegerKernels<s16> kernels = kIntegerKernels<s16>;
+  kernels.addRight = kForms<s16, SumRight<HalfOfSum>>;
+  kernels.subRight = kForms<s16, SumRight<HalfOfDifference>>;
+  kernels.mulRight = kForms<s16, ProductRight>;
+  return kernels;
+}
 
 }  // namespace
 
 namespace RNX_WIDTH {
 
 constinit const BinaryKernels binaryKernels = {
-    .of8u = kIntegerKernels<u8>,
+    .of8u = of8u(),
     .of16u = kIntegerKernels<u16>,
-    .of16s = kIntegerKernels<s16>,
+    .of16s = of16s(),
     .of32f = {.add = kForms<f32, AddFloat>,
               .sub = kForms<f32, SubFloat>,
               .mul = kForms<f32, MulFloat>,

@@ -10,7 +10,6 @@
 // tail are the same code.
 #pragma once
 
-#include <algorithm>
 #include <bit>
 
 #include "core/image.h"
@@ -112,15 +111,16 @@ struct ImageSource {
 template <class T>
 class PatternSource {
 public:
-  PatternSource(const T* values, int period) : periodic_(period > 1) {
+  RNX_INLINE PatternSource(const T* values, int period) : periodic_(period > 1) {
     if (!periodic_) {
       for (Vec<T>& v : body_) v = Vec<T>::splat(values[0]);
       return;
     }
-    for (int i = 0; i < kPeriod; ++i) buffer_[i] = values[i % period];
-    for (int filled = kPeriod; filled < kLength; filled += filled) {
-      __builtin_memcpy(buffer_ + filled, buffer_, sizeof(T) * static_cast<size_t>(filled));
+    T block[kPeriod];
+    for (int i = 0; i < kPeriod; i += period) {
+      for (int k = 0; k < period; ++k) block[i + k] = values[k];
     }
+    for (int i = 0; i < kLength; i += kPeriod) __builtin_memcpy(buffer_ + i, block, sizeof(block));
     load(0);
   }
 
@@ -138,9 +138,8 @@ public:
 private:
   static constexpr int kPeriod = 12;                 // a multiple of every period
   static constexpr int kRound = 3 * Vec<T>::kLanes;  // elements that three vectors hold
-  // kPeriod times a power of two that reaches a whole round from any phase
-  static constexpr int kLength =
-      kPeriod * static_cast<int>(std::bit_ceil(unsigned(kRound + kPeriod - 1 + kPeriod - 1) / kPeriod));
+  // whole periods that hold a round from any phase
+  static constexpr int kLength = (kRound + 2 * kPeriod - 2) / kPeriod * kPeriod;
 
   void load(int phase) {
     for (int k = 0; k < 3; ++k) body_[k] = Vec<T>::load(buffer_ + phase + k * Vec<T>::kLanes);
@@ -173,88 +172,99 @@ struct ColorChannels {
 
 // ---- Rows ----
 
-// The functor is part of the code once per place that calls it, so there are few: a round of three vectors, one vector,
-// the vector at the end, and a part of a vector.
-template <class T, class Channels, class F, class... Sources>
-struct ElementWise {
-  static constexpr int L = Vec<T>::kLanes;
+// Sources and functor are passed and kept by value, and nothing may take their address: the compiler would reload them
+// after every store. The functor is part of the code once per place that calls it, so there are few.
 
-  T* dst;
-  F& f;
+// Elements [i, i + n) of a row, with n below a vector.
+template <class Channels, class T, class F, class... Sources>
+RNX_INLINE void partOfRow(T* dst, s64 i, int n, F& f, const Sources&... sources) {
+  const Vec<T> old = Channels::kKeepsAlpha ? loadPart(dst + i, n) : Vec<T>::zero();
+  storePart(dst + i, n, Channels::merge(f(sources.part(i, n)...), old));
+}
 
-  template <int K>
-  RNX_INLINE Vec<T> bodyVector(s64 i, const Sources&... sources) {
-    return Channels::merge(f(sources.template body<K>(i)...), old(i));
-  }
-  RNX_INLINE Vec<T> vectorAt(s64 i, const Sources&... sources) { return Channels::merge(f(sources.at(i)...), old(i)); }
-  RNX_INLINE Vec<T> old(s64 i) const { return Channels::kKeepsAlpha ? Vec<T>::load(dst + i) : Vec<T>::zero(); }
+template <class Channels, class T>
+RNX_INLINE Vec<T> oldVector(const T* p) {
+  return Channels::kKeepsAlpha ? Vec<T>::load(p) : Vec<T>::zero();
+}
 
-  // Elements [i, i + n) with n below a vector.
-  __attribute__((noinline)) void part(s64 i, int n, const Sources&... sources) {
-    const Vec<T> before = Channels::kKeepsAlpha ? loadPart(dst + i, n) : Vec<T>::zero();
-    storePart(dst + i, n, Channels::merge(f(sources.part(i, n)...), before));
-  }
+// Elements up to the first address that a store around the caches can take.
+template <class T>
+RNX_INLINE s64 elementsToAlignment(const T* p) {
+  const auto misplaced = reinterpret_cast<uintptr_t>(p) % kBytes;
+  return misplaced == 0 ? 0 : static_cast<s64>((kBytes - misplaced) / sizeof(T));
+}
 
-  // From element i to behind the last whole vector.
-  RNX_INLINE void body(s64 i, s64 n, bool stream, Sources&... sources) {
+// Rows of at least a vector.
+template <class Channels, class T, class F, class... Sources>
+RNX_INLINE void longRows(const core::Rows& rows, T* dst, s64 dstStep, F& functor, Sources... sources) {
+  constexpr int L = Vec<T>::kLanes;
+  const auto placement = reinterpret_cast<uintptr_t>(dst) | static_cast<uintptr_t>(dstStep);
+  const s64 n = rows.width, last = n - L;
+  const bool stream =
+      rows.walk == core::Walk::kStream && !Channels::kKeepsAlpha && placement % sizeof(T) == 0 && n >= 4 * L;
+  const bool ragged = n % L != 0 || stream;
+  F f = functor;
+  for (s64 y = 0; y < rows.height; ++y) {
+    // The vector at the end is computed before anything is written, for its sources may be the row itself.
+    Vec<T> tail = Vec<T>::zero();
+    if (ragged) tail = Channels::merge(f(sources.at(last)...), oldVector<Channels>(dst + last));
+    s64 i = 0;
+    if (stream) {  // a first vector reaches past the boundary where the body begins; the sources are apart from the row
+      f(sources.at(0)...).store(dst);
+      i = elementsToAlignment(dst);
+    }
     (sources.beginBody(i), ...);
     for (; i + 3 * L <= n; i += 3 * L) {
-      const Vec<T> v0 = bodyVector<0>(i, sources...);
-      const Vec<T> v1 = bodyVector<1>(i + L, sources...);
-      const Vec<T> v2 = bodyVector<2>(i + 2 * L, sources...);
+      T* d = dst + i;
+      const Vec<T> v0 = Channels::merge(f(sources.template body<0>(i)...), oldVector<Channels>(d));
+      const Vec<T> v1 = Channels::merge(f(sources.template body<1>(i + L)...), oldVector<Channels>(d + L));
+      const Vec<T> v2 = Channels::merge(f(sources.template body<2>(i + 2 * L)...), oldVector<Channels>(d + 2 * L));
       if (stream) {
-        v0.stream(dst + i), v1.stream(dst + i + L), v2.stream(dst + i + 2 * L);
+        v0.stream(d), v1.stream(d + L), v2.stream(d + 2 * L);
       } else {
-        v0.store(dst + i), v1.store(dst + i + L), v2.store(dst + i + 2 * L);
+        v0.store(d), v1.store(d + L), v2.store(d + 2 * L);
       }
     }
-    for (; i + L <= n; i += L) vectorAt(i, sources...).store(dst + i);
-  }
-
-  // Stores around the caches are aligned: elements up to the first boundary go one by one.
-  s64 headOfStream(s64 n, const Sources&... sources) {
-    const auto misplaced = reinterpret_cast<uintptr_t>(dst) % kBytes;
-    const s64 head = misplaced == 0 ? 0 : static_cast<s64>((kBytes - misplaced) / sizeof(T));
-    inOrder(std::min(head, n), sources...);
-    return head;
-  }
-
-  bool canStream(s64 n) const {
-    return !Channels::kKeepsAlpha && reinterpret_cast<uintptr_t>(dst) % sizeof(T) == 0 && n >= 4 * L;
-  }
-
-  // The vector at the end is computed before anything is written, for its sources may be the row itself.
-  RNX_INLINE void row(s64 n, bool stream, Sources&... sources) {
-    if (n < L) return part(0, static_cast<int>(n), sources...);
-    const s64 last = n - L;
-    const bool ragged = n % L != 0 || stream;
-    const Vec<T> tail = ragged ? vectorAt(last, sources...) : Vec<T>::zero();
-    body(stream ? headOfStream(n, sources...) : 0, n, stream, sources...);
+    for (; i + L <= n; i += L) Channels::merge(f(sources.at(i)...), oldVector<Channels>(dst + i)).store(dst + i);
     if (ragged) tail.store(dst + last);
-  }
-
-  void inOrder(s64 n, const Sources&... sources) {
-    for (s64 i = 0; i < n; ++i) {
-      if (!Channels::kKeepsAlpha || i % 4 != 3) part(i, 1, sources...);
-    }
-  }
-};
-
-// Calls f with one vector of each source and stores what it returns, over all rows.
-template <class Channels, class T, class F, class... Sources>
-RNX_INLINE void forEachElement(const core::Rows& rows, T* dst, s64 dstStep, F& f, Sources... sources) {
-  ElementWise<T, Channels, F, Sources...> loop{dst, f};
-  const bool stream = rows.walk == core::Walk::kStream;
-  for (s64 y = 0; y < rows.height; ++y) {
-    if (rows.walk == core::Walk::kInOrder) {
-      loop.inOrder(rows.width, sources...);
-    } else {
-      loop.row(rows.width, stream && loop.canStream(rows.width), sources...);
-    }
-    loop.dst = core::at(loop.dst, dstStep);
+    dst = core::at(dst, dstStep);
     (sources.nextRow(), ...);
   }
   if (stream) _mm_sfence();
+  functor = f;
+}
+
+// Rows of less than a vector.
+template <class Channels, class T, class F, class... Sources>
+RNX_INLINE void shortRows(const core::Rows& rows, T* dst, s64 dstStep, F& f, Sources... sources) {
+  for (s64 y = 0; y < rows.height; ++y) {
+    partOfRow<Channels>(dst, 0, static_cast<int>(rows.width), f, sources...);
+    dst = core::at(dst, dstStep);
+    (sources.nextRow(), ...);
+  }
+}
+
+template <class Channels, class T, class F, class... Sources>
+RNX_INLINE void rowsInOrder(const core::Rows& rows, T* dst, s64 dstStep, F& f, Sources... sources) {
+  for (s64 y = 0; y < rows.height; ++y) {
+    for (s64 i = 0; i < rows.width; ++i) {
+      if (!Channels::kKeepsAlpha || i % 4 != 3) partOfRow<Channels>(dst, i, 1, f, sources...);
+    }
+    dst = core::at(dst, dstStep);
+    (sources.nextRow(), ...);
+  }
+}
+
+// Calls f with one vector of each source and stores what it returns, over all rows.
+template <class Channels, class T, class F, class... Sources>
+RNX_INLINE void forEachElement(const core::Rows& rows, T* dst, s64 dstStep, F& f, const Sources&... sources) {
+  if (rows.walk == core::Walk::kInOrder) {
+    rowsInOrder<Channels>(rows, dst, dstStep, f, sources...);
+  } else if (rows.width < Vec<T>::kLanes) {
+    shortRows<Channels>(rows, dst, dstStep, f, sources...);
+  } else {
+    longRows<Channels>(rows, dst, dstStep, f, sources...);
+  }
 }
 
 }  // namespace

@@ -19,6 +19,7 @@ RNX_INLINE Vec<u16> addSaturated(Vec<u16> a, Vec<u16> b) { return Vec<u16>::of(R
 RNX_INLINE Vec<u16> subSaturated(Vec<u16> a, Vec<u16> b) { return Vec<u16>::of(RNX_MM(subs_epu16)(a.bits(), b.bits())); }
 RNX_INLINE Vec<s16> addSaturated(Vec<s16> a, Vec<s16> b) { return Vec<s16>::of(RNX_MM(adds_epi16)(a.bits(), b.bits())); }
 RNX_INLINE Vec<s16> subSaturated(Vec<s16> a, Vec<s16> b) { return Vec<s16>::of(RNX_MM(subs_epi16)(a.bits(), b.bits())); }
+RNX_INLINE Vec<u16> multiplyHigh(Vec<u16> a, Vec<u16> b) { return Vec<u16>::of(RNX_MM(mulhi_epu16)(a.bits(), b.bits())); }
 // (a + b + 1) >> 1 without overflow
 RNX_INLINE Vec<u8> average(Vec<u8> a, Vec<u8> b) { return Vec<u8>::of(RNX_MM(avg_epu8)(a.bits(), b.bits())); }
 RNX_INLINE Vec<u16> average(Vec<u16> a, Vec<u16> b) { return Vec<u16>::of(RNX_MM(avg_epu16)(a.bits(), b.bits())); }
@@ -60,6 +61,12 @@ template <class W> RNX_INLINE Pair<W> multiply(Vec<s16> a, Vec<s16> b) {
   return {p.lo.template as<W>(), p.hi.template as<W>()};
 }
 
+// a * b + p * q, exact unless all four are -2^15.
+RNX_INLINE Pair<s32> addProducts(Vec<s16> a, Vec<s16> b, Vec<s16> p, Vec<s16> q) {
+  return {Vec<s32>::of(RNX_MM(madd_epi16)(RNX_MM(unpacklo_epi16)(a.bits(), p.bits()), RNX_MM(unpacklo_epi16)(b.bits(), q.bits()))),
+          Vec<s32>::of(RNX_MM(madd_epi16)(RNX_MM(unpackhi_epi16)(a.bits(), p.bits()), RNX_MM(unpackhi_epi16)(b.bits(), q.bits())))};
+}
+
 // ---- Narrowing with saturation: the inverse of widen. ----
 
 template <class T> Vec<T> narrow(Pair<s16> p) = delete;
@@ -78,17 +85,19 @@ template <class T> RNX_INLINE Vec<T> narrow(Pair<u32> p) {
 
 // ---- Shifts of all lanes by a count known per call; a count of the lane's size or more is allowed. ----
 
-RNX_INLINE __m128i shiftCount(int n) { return _mm_cvtsi32_si128(n); }
+using ShiftCount = __m128i;
+RNX_INLINE ShiftCount shiftCount(int n) { return _mm_cvtsi32_si128(n); }
 
 // clang-format off
-RNX_INLINE Vec<s16> shiftRight(Vec<s16> v, int n) { return Vec<s16>::of(RNX_MM(sra_epi16)(v.bits(), shiftCount(n))); }
-RNX_INLINE Vec<u16> shiftRight(Vec<u16> v, int n) { return Vec<u16>::of(RNX_MM(srl_epi16)(v.bits(), shiftCount(n))); }
-RNX_INLINE Vec<s32> shiftRight(Vec<s32> v, int n) { return Vec<s32>::of(RNX_MM(sra_epi32)(v.bits(), shiftCount(n))); }
-RNX_INLINE Vec<u32> shiftRight(Vec<u32> v, int n) { return Vec<u32>::of(RNX_MM(srl_epi32)(v.bits(), shiftCount(n))); }
-RNX_INLINE Vec<s16> shiftLeft(Vec<s16> v, int n) { return Vec<s16>::of(RNX_MM(sll_epi16)(v.bits(), shiftCount(n))); }
-RNX_INLINE Vec<u16> shiftLeft(Vec<u16> v, int n) { return Vec<u16>::of(RNX_MM(sll_epi16)(v.bits(), shiftCount(n))); }
-RNX_INLINE Vec<s32> shiftLeft(Vec<s32> v, int n) { return Vec<s32>::of(RNX_MM(sll_epi32)(v.bits(), shiftCount(n))); }
-RNX_INLINE Vec<u32> shiftLeft(Vec<u32> v, int n) { return Vec<u32>::of(RNX_MM(sll_epi32)(v.bits(), shiftCount(n))); }
+RNX_INLINE Vec<s16> shiftRight(Vec<s16> v, ShiftCount n) { return Vec<s16>::of(RNX_MM(sra_epi16)(v.bits(), n)); }
+RNX_INLINE Vec<u16> shiftRight(Vec<u16> v, ShiftCount n) { return Vec<u16>::of(RNX_MM(srl_epi16)(v.bits(), n)); }
+RNX_INLINE Vec<s32> shiftRight(Vec<s32> v, ShiftCount n) { return Vec<s32>::of(RNX_MM(sra_epi32)(v.bits(), n)); }
+RNX_INLINE Vec<u32> shiftRight(Vec<u32> v, ShiftCount n) { return Vec<u32>::of(RNX_MM(srl_epi32)(v.bits(), n)); }
+template <int N> RNX_INLINE Vec<u16> shiftLeft(Vec<u16> v) { return Vec<u16>::of(RNX_MM(slli_epi16)(v.bits(), N)); }
+RNX_INLINE Vec<s16> shiftLeft(Vec<s16> v, ShiftCount n) { return Vec<s16>::of(RNX_MM(sll_epi16)(v.bits(), n)); }
+RNX_INLINE Vec<u16> shiftLeft(Vec<u16> v, ShiftCount n) { return Vec<u16>::of(RNX_MM(sll_epi16)(v.bits(), n)); }
+RNX_INLINE Vec<s32> shiftLeft(Vec<s32> v, ShiftCount n) { return Vec<s32>::of(RNX_MM(sll_epi32)(v.bits(), n)); }
+RNX_INLINE Vec<u32> shiftLeft(Vec<u32> v, ShiftCount n) { return Vec<u32>::of(RNX_MM(sll_epi32)(v.bits(), n)); }
 // clang-format on
 
 }  // namespace

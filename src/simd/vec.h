@@ -10,6 +10,7 @@
 #include "core/types.h"
 
 #define RNX_INLINE inline __attribute__((always_inline))
+#define RNX_INLINE_LAMBDA __attribute__((always_inline))
 
 // Intrinsics of the two widths share their names behind the prefix.
 #if RNX_VECTOR_BYTES == 32
