@@ -327,7 +327,8 @@ RnxStatus rnxiResizeNearest_32f_C4R_L(const Rnx32f* pSrc, Rnx64s srcStep, Rnx32f
 
    Outside the source the border type decides: replication takes the edge pixel; mirroring takes the pair (1, 0) for
    (-1, 0) and (last, last - 1) for (last, last + 1), with the same weights; on a side whose in-memory flag is set the pixel
-   beyond the source is read.
+   beyond the source is read. Beside a flag the kind still decides at the edges of the whole source that the tile's side does
+   not touch in the destination; rnxBorderInMem alone reads there too. Tiles need no flags for the sides inside.
 
    Arguments
      pSrc, srcStep: source image: first pixel of the ROI and step in bytes
@@ -357,8 +358,8 @@ RnxStatus rnxiResizeNearest_32f_C4R_L(const Rnx32f* pSrc, Rnx64s srcStep, Rnx32f
        RnxiPoint to = {dstSize.width / 2, 0}, from;
        RnxiSize half = {dstSize.width - to.x, dstSize.height};
        rnxiResizeGetSrcOffset_8u(spec, to, &from);
-       RnxStatus status = rnxiResizeLinear_8u_C1R(src + from.y * srcStep + from.x, srcStep, dst + to.x, dstStep, to, half,
-                                                  rnxBorderRepl | rnxBorderInMemLeft, NULL, spec, buffer); */
+       RnxStatus status = rnxiResizeLinear_8u_C1R(src + from.y * srcStep + from.x, srcStep, dst + to.x, dstStep,
+                                                  to, half, rnxBorderRepl, NULL, spec, buffer); */
 
 RnxStatus rnxiResizeLinear_8u_C1R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiPoint dstOffset,
     RnxiSize dstSize, RnxiBorderType border, const Rnx8u* pBorderValue, const RnxiResizeSpec* pSpec, Rnx8u* pBuffer);

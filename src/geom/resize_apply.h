@@ -130,11 +130,15 @@ inline bool isBorder(RnxiBorderType border, bool allowMirror) {
   return border == rnxBorderInMem || kind == rnxBorderRepl || (allowMirror && kind == rnxBorderMirror);
 }
 
-inline Neighbours neighbours(const Axis& axis, RnxiBorderType border, u32 beforeInMemory, u32 afterInMemory) {
+// A flag speaks of a side of the tile. Inside the destination the neighbouring source pixels lie in memory anyway, and
+// what the flag says about pixels beyond the whole source is not meant; 240 means those as well.
+inline Neighbours neighbours(const Axis& axis, const TileAxis& tile, s64 offset, RnxiBorderType border, u32 before,
+                             u32 after) {
+  const bool all = border == rnxBorderInMem;
+  const bool realBefore = all || ((border & before) != 0 && offset == 0);
+  const bool realAfter = all || ((border & after) != 0 && offset + tile.count == axis.destination);
   const s64 last = axis.source - 1, step = (border & kBorderKind) == rnxBorderMirror ? std::min<s64>(1, last) : 0;
-  return {.last = last,
-          .firstOfBefore = (border & beforeInMemory) != 0 ? -1 : step,
-          .secondOfLast = (border & afterInMemory) != 0 ? last + 1 : last - step};
+  return {.last = last, .firstOfBefore = realBefore ? -1 : step, .secondOfLast = realAfter ? last + 1 : last - step};
 }
 
 inline LinearKernel formOf(const LinearForms& forms, int channels) {
@@ -171,13 +175,17 @@ RnxStatus linearTile(int channels, u32 tag, const T* src, s64 srcStep, T* dst, s
   if (const RnxStatus status = checkTile(spec, {tag, rnxLinear, kLinearElement<T>}, tile)) return status;
   LinearCall call = {
       .tile = planTile(spec, tile, src, srcStep, dst, dstStep),
-      .columnNeighbours = neighbours(spec.horizontal, border, rnxBorderInMemLeft, rnxBorderInMemRight),
-      .rowNeighbours = neighbours(spec.vertical, border, rnxBorderInMemTop, rnxBorderInMemBottom),
+      .columnNeighbours = {},
+      .rowNeighbours = {},
       .columnWeights = columnWeights<Weight>(spec) + tile.x,
       .rowWeights = rowWeights<Weight>(spec) + tile.y,
       .intermediate = {},
       .stream = false,
   };
+  call.columnNeighbours =
+      neighbours(spec.horizontal, call.tile.columns, tile.x, border, rnxBorderInMemLeft, rnxBorderInMemRight);
+  call.rowNeighbours =
+      neighbours(spec.vertical, call.tile.rows, tile.y, border, rnxBorderInMemTop, rnxBorderInMemBottom);
   constexpr s64 kBeforeFirst = -1;
   if (!tablesFit(spec, call.tile, kBeforeFirst)) return rnxStatusBadContext;
 

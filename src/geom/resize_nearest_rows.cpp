@@ -62,7 +62,7 @@ public:
     bytes_ = count * P;
     s64 span = 1;
     for (s64 q = 0; q < blocks(); ++q) {
-      span = std::max(span, offset(lastByte(q)) - offset(firstByte(q)) + 1);
+      span = std::max(span, pixelOffset(lastByte(q)) + P - pixelOffset(firstByte(q)));
     }
     windows_ = windowsFor(span, extent);
     if (windows_ == 0) return false;
@@ -93,11 +93,12 @@ private:
     return std::min(start + q % kBlocksPerVector * kBlockBytes, bytes_ - 1);
   }
   s64 lastByte(s64 q) const { return std::min(firstByte(q) + kBlockBytes, bytes_) - 1; }
-  s64 offset(s64 byte) const { return (column_[byte / P] - origin_) * P + byte % P; }
+  // Of the source pixel that a result byte belongs to. Pixels ascend; their bytes do not where a pixel repeats.
+  s64 pixelOffset(s64 byte) const { return (column_[byte / P] - origin_) * P; }
 
   void buildBlock(s64 q, const Extent& extent) {
     const s64 first = firstByte(q), last = lastByte(q);
-    const s64 base = baseFor(offset(first), windows_, extent);
+    const s64 base = baseFor(pixelOffset(first), windows_, extent);
     const int bias = windows_ == 1 ? kStoredBias<1> : kStoredBias<2>;
     bases_[q] = base;
     u8* picks = picks_ + q * kBlockBytes;

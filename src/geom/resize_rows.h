@@ -1,6 +1,9 @@
 // What the row kernels of the resize functions share.
 #pragma once
 
+#include <algorithm>
+#include <bit>
+
 #include "geom/resize_kernels.h"
 #include "simd/gather.h"
 

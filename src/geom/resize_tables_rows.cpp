@@ -63,7 +63,7 @@ void linearFixed(s32* index, FixedPair* weights, s64 n, f64 scale) {
   const Vec<u32> whole = Vec<u32>::splat(16384);
   linear(index, weights, n, scale, [&](FixedPair* to, Pair<f64> f) {
     const Vec<u32> w = truncateToInt(Pair<f64>{f.lo * one + epsilon, f.hi * one + epsilon}).template as<u32>();
-    (whole - w + shiftLeft(w, 16)).store(to);
+    (whole + w * Vec<u32>::splat(65535)).store(to);  // 16384 - w + (w << 16)
   });
 }
 
