@@ -1,6 +1,8 @@
 # cmake --install: headers, both libraries, a CMake package and a pkg-config file.
 include(CMakePackageConfigHelpers)
 
+# rnxip finds rnxcore beside itself, wherever they are installed.
+set_target_properties(rnxip PROPERTIES INSTALL_RPATH "$ORIGIN")
 install(TARGETS rnxip rnxcore EXPORT rnxipTargets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
 install(FILES include/rnxip.h include/rnxcore.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(DIRECTORY include/rnxip DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
@@ -9,5 +11,8 @@ install(EXPORT rnxipTargets NAMESPACE rnxip:: FILE rnxipConfig.cmake
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/rnxipConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/rnxipConfigVersion.cmake DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/rnxip)
 
+# From the pkg-config file up to the prefix, so that an installed folder may be moved.
+file(RELATIVE_PATH RNXIP_PREFIX_FROM_PC "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
+string(REGEX REPLACE "/$" "" RNXIP_PREFIX_FROM_PC "${RNXIP_PREFIX_FROM_PC}")
 configure_file(cmake/rnxip.pc.in ${PROJECT_BINARY_DIR}/rnxip.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/rnxip.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -7,6 +7,7 @@
 
 #include "rnxip/arith.h"
 #include "rnxip/core.h"
+#include "rnxip/data.h"
 #include "rnxip/geom.h"
 
 #endif

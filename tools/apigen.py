@@ -140,7 +140,8 @@ class Table:
 
 def expand_family(family, shapes, arguments, checks):
     raw = family.raw
-    grids = [(f"shape {name}", shapes[name]) for name in raw.get("shapes", "").split()]
+    narrowed = {key: raw[key] for key in ("types", "layouts") if key in raw}  # of the shapes, by the family
+    grids = [(f"shape {name}", shapes[name] | narrowed) for name in raw.get("shapes", "").split()]
     grids += [(f"grid {i + 1}", grid) for i, grid in enumerate(raw.get("grid", []))]
     if not grids:
         raise Mistake(f"{family.file}: family {family.name} has neither shapes nor grid")

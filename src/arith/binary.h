@@ -3,6 +3,7 @@
 #pragma once
 
 #include <algorithm>
+#include <bit>
 
 #include "arith/binary_kernels.h"
 #include "core/checks.h"
@@ -95,11 +96,11 @@ struct Div {
   static const BinaryForms<f32>& choose(const FloatKernels& k) { return k.div; }
 };
 
-// 2^-scaleFactor, exact. Beyond 2^40 either way every quotient of 16 bits saturates or rounds to 0.
+// 2^-scaleFactor, exact: an exponent and nothing else. Beyond 2^40 either way every quotient of 16 bits saturates or
+// rounds to 0.
 inline f32 divisionFactor(int scaleFactor) {
-  constexpr int kBeyond = 40;
-  const int n = std::clamp(scaleFactor, -kBeyond, kBeyond);
-  return n < 0 ? static_cast<f32>(s64{1} << -n) : 1.0f / static_cast<f32>(s64{1} << n);
+  constexpr int kBeyond = 40, kExponentBias = 127, kMantissaBits = 23;
+  return std::bit_cast<f32>((kExponentBias - std::clamp(scaleFactor, -kBeyond, kBeyond)) << kMantissaBits);
 }
 
 inline const IntegerKernels<u8>& kernelsOf(const BinaryKernels& k, u8) { return k.of8u; }

@@ -86,7 +86,7 @@ template <class... Sources>
 Rows planRows(s64 width, s64 height, const Operand& dst, const Sources&... src) {
   Rows rows = {width, height, (dst.rowBytes + ... + src.rowBytes) * height, Walk::kVectors};
   bool apart = true, mergeable = true;
-  const auto meet = [&](const Operand& source) {
+  [[maybe_unused]] const auto meet = [&](const Operand& source) {
     const Relation relation = relate(dst, source, height);
     apart = apart && relation == Relation::kApart;
     mergeable = mergeable && (relation == Relation::kApart || relation == Relation::kIdentical);

@@ -45,7 +45,15 @@ struct Vec {
 
   static RNX_INLINE Vec of(Int r) { return {reinterpret_cast<Raw>(r)}; }
   static RNX_INLINE Vec zero() { return {Raw{}}; }
-  static RNX_INLINE Vec splat(T v) { return {Raw{} + v}; }
+  // Not `Raw{} + v` for floats: that turns -0.0 into 0.0.
+  static RNX_INLINE Vec splat(T v) {
+    if constexpr (std::is_same_v<T, float>)
+      return {RNX_MM(set1_ps)(v)};
+    else if constexpr (std::is_same_v<T, double>)
+      return {RNX_MM(set1_pd)(v)};
+    else
+      return {Raw{} + v};
+  }
   static RNX_INLINE Vec load(const T* p) {
     return {reinterpret_cast<Raw>(RNX_MM(loadu_ps)(reinterpret_cast<const float*>(p)))};
   }

@@ -45,12 +45,15 @@ public:
   u8* row(s64 y) const { return data_ + y * shape_.step; }
 
   // The copy: what memory is expected to hold.
-  void expectNow() { shadow_.assign(begin_, end_); }
+  void expectNow() {
+    shadow_.assign(begin_, end_);
+    original_ = shadow_;
+  }
   u8* shadow() { return shadow(data_); }
   u8* shadowRow(s64 y) { return shadow(row(y)); }
   u8* shadow(const void* inside) { return shadow_.data() + (static_cast<const u8*>(inside) - begin_); }
-  // Gives the image back the values of the copy.
-  void restore() { std::memcpy(begin_, shadow_.data(), shadow_.size()); }
+  // Puts back what was there when expectNow() was called, for the next run against the same expectation.
+  void rewind() { std::memcpy(begin_, original_.data(), original_.size()); }
 
   // Every byte is as expected. With a float element type any NaN in a row equals any other.
   testing::AssertionResult matches(Element element = Element::k8u);
@@ -64,7 +67,7 @@ private:
   size_t mapBytes_ = 0;
   u8 *begin_ = nullptr, *end_ = nullptr;  // the part in use: rows and margins
   u8* data_ = nullptr;
-  std::vector<u8> shadow_;
+  std::vector<u8> shadow_, original_;
 };
 
 // Address space of any size of which only the parts that are opened can be touched: for rows gigabytes apart.

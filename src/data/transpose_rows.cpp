@@ -1,0 +1,189 @@
+// Kernels of the transposition: tiles that fit the registers, in blocks that fit the first cache.
+//
+// A tile is kColumns source columns wide; its rows are a group, whose pixels become neighbours in the destination. The
+// wide build transposes two groups of rows at once.
+#include "data/pixel_rows.h"
+#include "data/transpose_kernels.h"
+
+namespace rnx::data {
+namespace {
+
+struct Image {
+  const u8* src;
+  s64 srcStep;
+  u8* dst;
+  s64 dstStep;
+};
+
+// Pixels of 1, 2, 4, 8 or 16 bytes: a square of one chunk in each direction.
+template <int P, bool Keeps>
+struct Tile {
+  static constexpr int kColumns = kChunk / P, kRows = kColumns;
+
+  // The groups at row y and `apart` rows further.
+  static RNX_INLINE void move(const Image& image, s64 x, s64 y, s64 apart, s64) {
+    Vec<u8> v[kRows];
+    for (int r = 0; r < kRows; ++r) {
+      v[r] = loadChunks(core::at(image.src, (y + r) * image.srcStep + x * P), apart * image.srcStep);
+    }
+    if constexpr (P < 16) transposeChunks<P>(v);
+    for (int c = 0; c < kColumns; ++c) {
+      u8* dst = core::at(image.dst, (x + c) * image.dstStep + y * P);
+      if (Keeps) v[c] = select(Mask<u8>::load(kAlphaBytes<P>.at), loadChunks(dst, apart * P), v[c]);
+      if (apart == kRows) {
+        v[c].store(dst);
+      } else {
+        storeChunks(dst, apart * P, v[c]);
+      }
+    }
+  }
+};
+
+// Pixels of 3, 6 or 12 bytes stand in lanes of 4, 8 or 16 bytes while they are transposed. A chunk of the source holds
+// 12 bytes of pixels; four of them make the three chunks of a destination row.
+template <int P>
+struct LaneIndex {
+  static constexpr int kLane = P / 3 * 4;
+  alignas(16) u8 expand[2][kChunk];    // from a chunk that starts with the pixels, or 4 bytes earlier
+  alignas(16) u8 compress[4][kChunk];  // 12 bytes, rotated to where they belong in the three chunks
+  constexpr LaneIndex() : expand(), compress() {
+    for (int b = 0; b < kChunk; ++b) {
+      const int byte = b % kLane < P ? b / kLane * P + b % kLane : 0x80;
+      expand[0][b] = static_cast<u8>(byte);
+      expand[1][b] = static_cast<u8>(byte == 0x80 ? byte : byte + 4);
+    }
+    for (int s = 0; s < 4; ++s) {
+      for (int b = 0; b < kChunk; ++b) compress[s][b] = 0x80;
+      for (int b = 0; b < 12; ++b) compress[s][(12 * s + b) % kChunk] = static_cast<u8>(b / P * kLane + b % P);
+    }
+  }
+};
+template <int P>
+constexpr LaneIndex<P> kLaneIndex;
+
+template <int P, bool Keeps>
+requires(P % 3 == 0) struct Tile<P, Keeps> {
+  static constexpr int kLane = P / 3 * 4;
+  static constexpr int kColumns = kChunk / kLane, kRows = 4 * kColumns;
+
+  static RNX_INLINE void move(const Image& image, s64 x, s64 y, s64 apart, s64 width) {
+    // A chunk reaches 4 bytes behind its pixels, and may not reach behind the row.
+    const int early = (x + kColumns) * P + 4 > width * P ? 1 : 0;
+    const Vec<u8> expand = everyGroup(loadChunk(kLaneIndex<P>.expand[early]));
+    Vec<u8> v[4][kColumns];
+    for (int s = 0; s < 4; ++s) {
+      for (int c = 0; c < kColumns; ++c) {
+        const s64 row = y + s * kColumns + c;
+        v[s][c] = shuffle(
+            loadChunks(core::at(image.src, row * image.srcStep + x * P - 4 * early), apart * image.srcStep), expand);
+      }
+      if constexpr (kColumns > 1) transposeChunks<kLane>(v[s]);
+    }
+    for (int c = 0; c < kColumns; ++c) {
+      Vec<u8> part[4];
+      for (int s = 0; s < 4; ++s) part[s] = shuffle(v[s][c], everyGroup(loadChunk(kLaneIndex<P>.compress[s])));
+      u8* dst = core::at(image.dst, (x + c) * image.dstStep + y * P);
+      storeChunks(dst, apart * P, firstBytes<12>(part[0], part[1]));
+      storeChunks(dst + kChunk, apart * P, firstBytes<8>(part[1], part[2]));
+      storeChunks(dst + 2 * kChunk, apart * P, firstBytes<4>(part[2], part[3]));
+    }
+  }
+};
+
+template <int P, bool Keeps>
+void pixelByPixel(const Image& image, s64 x0, s64 x1, s64 y0, s64 y1) {
+  for (s64 y = y0; y < y1; ++y) {
+    for (s64 x = x0; x < x1; ++x) {
+      PixelRow<P, Keeps>::movePixel(core::at(image.dst, x * image.dstStep + y * P),
+                                    core::at(image.src, y * image.srcStep + x * P));
+    }
+  }
+}
+
+// Columns [x0, x1) of rows [y0, y1) of an image that is `width` pixels wide. Tiles at the ends overlap their
+// neighbours.
+template <int P, bool Keeps>
+void transposeBlock(const Image& image, s64 x0, s64 x1, s64 y0, s64 y1, s64 width) {
+  using Tile = Tile<P, Keeps>;
+  constexpr s64 kSpan = Tile::kRows * kGroups;
+  // A chunk of 12 bytes of pixels needs 16 bytes of a row.
+  if (x1 - x0 < Tile::kColumns || y1 - y0 < Tile::kRows || width * P < kChunk) {
+    return pixelByPixel<P, Keeps>(image, x0, x1, y0, y1);
+  }
+  const s64 lastY = std::max(y1 - kSpan, y0), lastApart = y1 - Tile::kRows - lastY;
+  for (s64 x = x0; x < x1; x += Tile::kColumns) {
+    const s64 column = std::min(x, x1 - Tile::kColumns);
+    s64 y = y0;
+    for (; y + kSpan <= y1; y += kSpan) Tile::move(image, column, y, Tile::kRows, width);
+    if (y < y1) Tile::move(image, column, lastY, lastApart, width);
+  }
+}
+
+// Pixels on the side of a block, a multiple of every tile's.
+template <int P>
+constexpr s64 kBlock = P == 1   ? 64
+                       : P <= 4 ? 32
+                                : 16;
+
+template <int P, bool Keeps>
+void transpose(const TransposeCall& call) {
+  const Image image = {call.src, call.srcStep, call.dst, call.dstStep};
+  if (call.inOrder) return pixelByPixel<P, Keeps>(image, 0, call.width, 0, call.height);
+  // A rest shorter than a block joins the last one.
+  constexpr s64 kSize = kBlock<P>;
+  const auto end = [](s64 start, s64 n) { return n - start < 2 * kSize ? n : start + kSize; };
+  for (s64 y = 0; y < call.height; y = end(y, call.height)) {
+    for (s64 x = 0; x < call.width; x = end(x, call.width)) {
+      transposeBlock<P, Keeps>(image, x, end(x, call.width), y, end(y, call.height), call.width);
+    }
+  }
+}
+
+// Blocks mirrored at the diagonal change places, one of them by way of a buffer.
+template <int P>
+void inPlace(u8* image, s64 step, s64 size, bool inOrder) {
+  using Row = PixelRow<P, false>;
+  if (inOrder) {
+    for (s64 x = 1; x < size; ++x) {
+      for (s64 y = 0; y < x; ++y)
+        Row::exchangePixels(core::at(image, y * step + x * P), core::at(image, x * step + y * P));
+    }
+    return;
+  }
+  constexpr s64 kSize = kBlock<P>;
+  u8 buffer[kSize * kSize * P];
+  for (s64 y = 0; y < size; y += kSize) {
+    const s64 rows = std::min(kSize, size - y);
+    for (s64 x = 0; x <= y; x += kSize) {
+      const s64 columns = std::min(kSize, size - x);
+      u8 *lower = core::at(image, y * step + x * P), *upper = core::at(image, x * step + y * P);
+      transposeBlock<P, false>({lower, step, buffer, rows * P}, 0, columns, 0, rows, columns);
+      if (x < y) transposeBlock<P, false>({upper, step, lower, step}, 0, rows, 0, columns, rows);
+      for (s64 r = 0; r < columns; ++r) Row::copy(core::at(upper, r * step), buffer + r * rows * P, rows);
+    }
+  }
+}
+
+template <int P>
+constexpr TransposeForms kForms = {transpose<P, false>, inPlace<P>};
+template <int P>
+constexpr TransposeForms kColors = {transpose<P, true>, nullptr};
+
+}  // namespace
+
+namespace RNX_WIDTH {
+
+constinit const TransposeKernels transposeKernels = {.of1 = kForms<1>,
+                                                     .of2 = kForms<2>,
+                                                     .of3 = kForms<3>,
+                                                     .of4 = kForms<4>,
+                                                     .of6 = kForms<6>,
+                                                     .of8 = kForms<8>,
+                                                     .of12 = kForms<12>,
+                                                     .of16 = kForms<16>,
+                                                     .colors4 = kColors<4>,
+                                                     .colors8 = kColors<8>,
+                                                     .colors16 = kColors<16>};
+
+}  // namespace RNX_WIDTH
+}  // namespace rnx::data

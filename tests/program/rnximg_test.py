@@ -1,0 +1,353 @@
+#!/usr/bin/env python3
+"""Runs rnximg (its path in $RNXIMG) on small pictures. Usage: rnximg_test.py [CLASS]..."""
+
+import os
+import re
+import resource
+import signal
+import subprocess
+import tempfile
+import unittest
+from fractions import Fraction
+from pathlib import Path
+
+import png
+
+RNXIMG = os.environ.get("RNXIMG", "rnximg")
+ROOT = Path(__file__).resolve().parent.parent.parent
+DATA = ROOT / "examples/data"
+
+
+class ProgramTest(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = Path(folder.name)
+
+    def run_program(self, *words, **options):
+        return subprocess.run(
+            [RNXIMG, *words], cwd=self.folder, stdin=subprocess.DEVNULL, capture_output=True, text=True, **options
+        )
+
+    def process(self, *words):
+        """Runs a command that has to succeed silently."""
+        result = self.run_program(*words)
+        self.assertEqual((result.returncode, result.stdout, result.stderr), (0, "", ""), words)
+
+    def write(self, name, rows, **options):
+        color_type = options.pop("color_type", png.TYPE_OF_CHANNELS.get(len(rows[0][0])))
+        (self.folder / name).write_bytes(png.encode(rows, color_type, **options))
+
+    def read(self, name):
+        return png.decode((self.folder / name).read_bytes())
+
+
+def ramp(channels, width=16, height=16, seed=0):
+    """Every level in every channel; the channels in different orders."""
+    strides, pixel = (37 + 2 * seed, 101, 59, 13), range(width * height)
+    levels = [tuple((p * strides[c] + 50 * c + 91 * seed) % 256 for c in range(channels)) for p in pixel]
+    return [levels[y * width : (y + 1) * width] for y in range(height)]
+
+
+def convert(rows, pixel):
+    return [[pixel(p) for p in row] for row in rows]
+
+
+class Files(ProgramTest):
+    def test_png_keeps_pixels(self):
+        for channels in (1, 3, 4):
+            for width, height in ((1, 1), (7, 5), (70, 3), (16, 16)):
+                with self.subTest(channels=channels, width=width, height=height):
+                    rows = ramp(channels, width, height)
+                    self.write("in.png", rows)
+                    self.process("in.png", "-o", "out.png")
+                    self.assertEqual(self.read("out.png"), rows)
+
+    def test_every_kind_of_png(self):
+        one_bit = convert(ramp(1, 11, 9), lambda p: (p[0] & 1,))
+        four_bits = convert(ramp(1, 11, 9), lambda p: (p[0] >> 4,))
+        deep = convert(ramp(3, 11, 9), lambda p: tuple(257 * v for v in p))
+        palette = png.chunk(b"PLTE", bytes(range(48)))
+        clear = png.chunk(b"tRNS", bytes([7, 200]))
+
+        def color(i):
+            return (3 * i, 3 * i + 1, 3 * i + 2)
+
+        cases = [
+            ("1 bit", one_bit, dict(color_type=png.GRAY, depth=1), lambda p: (255 * p[0],)),
+            ("4 bits", four_bits, dict(color_type=png.GRAY, depth=4), lambda p: (17 * p[0],)),
+            ("16 bits", deep, dict(depth=16), lambda p: tuple(v // 257 for v in p)),
+            ("palette", four_bits, dict(color_type=png.PALETTE, depth=4, extra=palette), lambda p: color(p[0])),
+            (
+                "transparent palette",
+                four_bits,
+                dict(color_type=png.PALETTE, depth=4, extra=palette + clear),
+                lambda p: (*color(p[0]), {0: 7, 1: 200}.get(p[0], 255)),
+            ),
+            ("gray and alpha", ramp(2), dict(color_type=png.GRAY_ALPHA), lambda p: (p[0], p[0], p[0], p[1])),
+            ("interlaced", ramp(3, 13, 11), dict(interlaced=True), lambda p: p),
+        ]
+        for name, rows, options, expected in cases:
+            with self.subTest(name):
+                self.write("in.png", rows, **options)
+                self.process("in.png", "-o", "out.png")
+                self.assertEqual(self.read("out.png"), convert(rows, expected))
+
+    def test_jpeg_there_and_back(self):
+        for pixel in ((90,), (200, 60, 30), (200, 60, 30, 128)):
+            with self.subTest(pixel):
+                self.write("in.png", [[pixel] * 20] * 12)
+                self.process("in.png", "-o", "out.jpg", "--quality", "98")
+                self.process("out.jpg", "-o", "back.png")
+                back = self.read("back.png")
+                self.assertEqual((len(back[0]), len(back)), (20, 12))
+                for got, wanted in zip(back[5][5], pixel[:3], strict=True):  # alpha is dropped
+                    self.assertLessEqual(abs(got - wanted), 3)
+
+    def test_quality_decides_the_size_of_a_jpeg(self):
+        sizes = []
+        for quality in ("20", "92", "98"):
+            self.process(DATA / "raccoon.png", "-o", f"{quality}.JPEG", "--quality", quality)
+            sizes.append((self.folder / f"{quality}.JPEG").stat().st_size)
+        self.process(DATA / "raccoon.png", "-o", "default.jpg")
+        self.assertEqual(sizes, sorted(sizes))
+        self.assertEqual((self.folder / "default.jpg").stat().st_size, sizes[1])
+
+    def test_photograph(self):
+        for name in ("raccoon.png", "raccoon.jpg"):
+            self.process(DATA / name, "-o", f"{name}.png")
+        self.assertEqual(self.read("raccoon.png.png"), png.decode((DATA / "raccoon.png").read_bytes()))
+        jpeg = self.read("raccoon.jpg.png")
+        self.assertEqual((len(jpeg[0]), len(jpeg)), (640, 480))
+
+    def test_output_through_a_link_keeps_the_link(self):
+        self.write("in.png", ramp(1))
+        (self.folder / "real.png").write_bytes(b"old")
+        (self.folder / "link.png").symlink_to("real.png")
+        self.process("in.png", "-o", "link.png")
+        self.assertTrue((self.folder / "link.png").is_symlink())
+        self.assertEqual(self.read("real.png"), ramp(1))
+
+    def test_output_may_be_the_input(self):
+        self.write("in.png", ramp(3))
+        self.process("in.png", "-o", "in.png", "addc", "1")
+        self.assertEqual(self.read("in.png"), convert(ramp(3), lambda p: tuple(min(v + 1, 255) for v in p)))
+
+
+def saturated(exact):
+    """Rounded half to even, as Python does it, and saturated."""
+    return min(max(round(exact), 0), 255)
+
+
+def contrasted(v, gain):
+    return saturated(128 + round(gain * (v - 128)))
+
+
+def quotient(v, w):
+    if w == 0:
+        return 255 if v else 0
+    return saturated(Fraction(128 * v, w))
+
+
+half = Fraction(1, 2)
+# Words; the level of channel c from that of the image and that of the second image, other.png.
+OPERATIONS = [
+    ("brightness 60", lambda v, w, c: min(v + 60, 255)),
+    ("brightness -70", lambda v, w, c: max(v - 70, 0)),
+    ("brightness +0", lambda v, w, c: v),
+    ("contrast 2", lambda v, w, c: contrasted(v, 2)),
+    ("contrast 0.5", lambda v, w, c: contrasted(v, half)),
+    ("contrast 0", lambda v, w, c: 128),
+    ("contrast 255", lambda v, w, c: contrasted(v, 255)),
+    ("addc 200", lambda v, w, c: min(v + 200, 255)),
+    ("addc 10 0 255", lambda v, w, c: min(v + (10, 0, 255)[c], 255)),
+    ("subc 30", lambda v, w, c: max(v - 30, 0)),
+    ("subc 10 0 255", lambda v, w, c: max(v - (10, 0, 255)[c], 0)),
+    ("mulc 1.5", lambda v, w, c: saturated(v * 3 * half)),
+    ("mulc 0.5 1 2", lambda v, w, c: saturated(v * (half, 1, 2)[c])),
+    ("mulc 255", lambda v, w, c: saturated(v * 255)),
+    ("mulc 1e-9", lambda v, w, c: 0),
+    ("divc 64", lambda v, w, c: saturated(Fraction(v, 64))),
+    ("divc 1 5 6", lambda v, w, c: saturated(Fraction(v, (1, 5, 6)[c]))),
+    ("blend other.png", lambda v, w, c: saturated(Fraction(v + w, 2))),
+    ("blend other.png 0.25", lambda v, w, c: saturated(Fraction(3 * v, 4)) + saturated(Fraction(w, 4))),
+    ("blend other.png 0", lambda v, w, c: v),
+    ("blend other.png 1", lambda v, w, c: w),
+    ("difference other.png", lambda v, w, c: abs(v - w)),
+    ("multiply other.png", lambda v, w, c: saturated(Fraction(v * w, 256))),
+    ("divide other.png", lambda v, w, c: quotient(v, w)),
+    ("addc 10 -- mulc 2 -- brightness -7", lambda v, w, c: max(min(2 * min(v + 10, 255), 255) - 7, 0)),
+]
+
+
+class Operations(ProgramTest):
+    def test_pixels(self):
+        for channels in (1, 3, 4):
+            image, other = ramp(channels), ramp(channels, seed=1)
+            self.write("in.png", image)
+            self.write("other.png", other)
+            for words, model in OPERATIONS:
+                if channels == 1 and re.search(r"c \S+ \S+ \S+$", words):
+                    continue  # one constant per colour
+                with self.subTest(words, channels=channels):
+                    result = self.run_program("in.png", "-o", "out.png", *words.split())
+                    self.assertEqual(result.returncode, 0, result.stderr)
+                    self.assertEqual(result.stderr.count("\n"), 1 if words.startswith("divide") else 0, result.stderr)
+                    expected = [
+                        [(*(model(p[c], q[c], c) for c in range(min(len(p), 3))), *p[3:]) for p, q in zip(*both)]
+                        for both in zip(image, other)
+                    ]
+                    self.assertEqual(self.read("out.png"), expected)
+
+    def test_second_image_takes_on_the_channels(self):
+        image = ramp(4)
+        self.write("in.png", image)
+        self.write("other.png", [[(9,)] * 16] * 16)
+        self.process("in.png", "-o", "out.png", "difference", "other.png")
+        self.assertEqual(self.read("out.png"), convert(image, lambda p: (*(abs(v - 9) for v in p[:3]), p[3])))
+        self.write("in.png", ramp(1))
+        self.write("other.png", [[(9, 9, 9, 77)] * 16] * 16)
+        self.process("in.png", "-o", "out.png", "difference", "other.png")
+        self.assertEqual(self.read("out.png"), convert(ramp(1), lambda p: (abs(p[0] - 9),)))
+
+
+class Failures(ProgramTest):
+    def setUp(self):
+        super().setUp()
+        self.write("in.png", ramp(3))
+        self.write("gray.png", ramp(1))
+        self.write("small.png", ramp(3, 5, 4))
+        (self.folder / "out.png").write_bytes(b"kept")
+
+    def assert_fails(self, status, words, part, **options):
+        before = sorted(self.folder.iterdir())
+        result = self.run_program(*words, **options)
+        self.assertEqual(result.returncode, status, (words, result.stderr))
+        self.assertRegex(result.stderr, r"\Arnximg: [^\n]+\n\Z", words)
+        self.assertIn(part, result.stderr)
+        self.assertEqual(result.stdout, "")
+        self.assertEqual((self.folder / "out.png").read_bytes(), b"kept", words)
+        self.assertEqual(sorted(self.folder.iterdir()), before, words)
+
+    def test_usage(self):
+        for words, part in [
+            ("", "INPUT"),
+            ("in.png", "-o OUTPUT"),
+            ("-o out.png", "INPUT"),
+            ("in.png -o", "-o"),
+            ("in.png -o out.gif", "out.gif"),
+            ("in.png -o out", ".png"),
+            ("in.png -o out.png --quality 0", "--quality: N"),
+            ("in.png -o out.png --quality good", "good"),
+            ("--verbose in.png -o out.png", "--verbose"),
+            ("in.png -o out.png sharpn 3", "sharpn"),
+            ("in.png -o out.png addc", "addc: LEVEL is missing"),
+            ("in.png -o out.png addc ten", "'ten'"),
+            ("in.png -o out.png addc 1x", "'1x'"),
+            ("in.png -o out.png addc 1.5", "'1.5'"),
+            ("in.png -o out.png addc 256", "0 to 255"),
+            ("in.png -o out.png addc 1 2", "LEVEL is missing"),
+            ("in.png -o out.png addc 1 2 3 4", "'4'"),
+            ("in.png -o out.png brightness +-1", "'+-1'"),
+            ("in.png -o out.png brightness 1e2", "'1e2'"),
+            ("in.png -o out.png brightness 99999999999", "99999999999"),
+            ("in.png -o out.png mulc -1", "mulc: GAIN"),
+            ("in.png -o out.png mulc nan", "nan"),
+            ("in.png -o out.png mulc inf", "inf"),
+            ("in.png -o out.png contrast 2 brightness 3", "'brightness'"),
+            ("in.png -o out.png divc 3 0 3", "DIVISOR must not be 0"),
+            ("in.png -o out.png blend in.png 1.5", "WEIGHT"),
+            ("gray.png -o out.png addc 1 2 3", "gray"),
+            ("in.png -o out.png -- addc 1", "both sides"),
+            ("in.png -o out.png addc 1 --", "both sides"),
+            ("in.png -o out.png addc 1 -- -- addc 1", "both sides"),
+            ("--help sharpn", "sharpn"),
+        ]:
+            with self.subTest(words):
+                self.assert_fails(2, words.split(), part)
+
+    def test_files(self):
+        (self.folder / "empty.png").write_bytes(b"")
+        (self.folder / "text.png").write_bytes(b"this is no picture\n")
+        (self.folder / "folder.png").mkdir()
+        # A picture of 2^38 pixels, which no allocator gives.
+        huge = (self.folder / "in.png").read_bytes().replace(b"\0\0\0\x10\0\0\0\x10", b"\0\x08\0\0\0\x08\0\0")
+        header = huge[8:33]
+        (self.folder / "huge.png").write_bytes(huge.replace(header, png.chunk(b"IHDR", header[8:21])))
+        for words, part in [
+            ("missing.png -o out.png", "missing.png: No such file"),
+            ("empty.png -o out.png", "empty.png: the file is empty"),
+            ("text.png -o out.png", "text.png: neither PNG nor JPEG"),
+            ("folder.png -o out.png", "folder.png: "),
+            ("huge.png -o out.png", "524288 x 524288"),
+            ("in.png -o folder.png", "folder.png: not a regular file"),
+            ("in.png -o nowhere/out.png", "nowhere/out.png: No such file"),
+            ("in.png -o out.png blend small.png", "small.png has 5 x 4 pixels, the image 16 x 16"),
+            ("in.png -o out.png addc 1 -- blend missing.png", "blend: missing.png: No such file"),
+            ("in.png -o out.png difference text.png", "difference: text.png: neither"),
+        ]:
+            with self.subTest(words):
+                self.assert_fails(1, words.split(), part)
+
+    def test_truncated_and_damaged_pictures(self):
+        self.process(DATA / "raccoon.png", "-o", "whole.jpg")
+        for whole in (self.folder / "in.png", self.folder / "whole.jpg"):
+            data, bad = whole.read_bytes(), self.folder / f"bad{whole.suffix}"
+            marker = data.find(b"\xff\xda") if whole.suffix == ".jpg" else data.find(b"IDAT")
+            lengths = {9, 20, 40, marker, marker + 30, len(data) // 2, len(data) - 13, len(data) - 2}
+            for length in sorted(lengths):
+                with self.subTest(whole.name, length=length):
+                    bad.write_bytes(data[:length])
+                    self.assert_fails(1, [bad.name, "-o", "out.png"], bad.name)
+        flipped = bytearray((self.folder / "in.png").read_bytes())
+        flipped[flipped.find(b"IDAT") + 20] ^= 0x40
+        (self.folder / "bad.png").write_bytes(flipped)
+        self.assert_fails(1, ["bad.png", "-o", "out.png"], "damaged PNG")
+
+    def test_full_disk(self):
+        def limit_file_size():
+            signal.signal(signal.SIGXFSZ, signal.SIG_IGN)
+            resource.setrlimit(resource.RLIMIT_FSIZE, (5000, 5000))
+
+        (self.folder / "out.jpg").write_bytes(b"kept")
+        for output in ("out.png", "out.jpg"):
+            with self.subTest(output):
+                self.assert_fails(1, [DATA / "raccoon.png", "-o", output], output, preexec_fn=limit_file_size)
+        self.assertEqual((self.folder / "out.jpg").read_bytes(), b"kept")
+
+
+class Help(ProgramTest):
+    def test_help_is_made_from_the_table(self):
+        result = self.run_program("--help")
+        self.assertEqual((result.returncode, result.stderr), (0, ""))
+        self.assertLessEqual(max(map(len, result.stdout.splitlines())), 120)
+        words = re.findall(r"^  (?!-)(\S+)", result.stdout.split("\nExample", 1)[1], re.MULTILINE)
+        self.assertGreaterEqual(set(words), {words.split()[0] for words, _ in OPERATIONS})
+        self.assertEqual(len(words), len(set(words)))
+        for word in words:
+            with self.subTest(word):
+                own = self.run_program("--help", word)
+                self.assertEqual((own.returncode, own.stderr), (0, ""))
+                self.assertRegex(own.stdout, rf"\Ausage: rnximg INPUT -o OUTPUT {word}\b[^\n]*\n\n\S")
+
+    def test_readme_shows_hello_as_it_is(self):
+        self.assertIn((ROOT / "examples/hello.c").read_text(), (ROOT / "README.md").read_text())
+
+
+class DemoList(ProgramTest):
+    def test_every_line_runs(self):
+        for picture in DATA.iterdir():
+            (self.folder / picture.name).symlink_to(picture)
+        for line in (ROOT / "scripts/demo.list").read_text().splitlines():
+            if not line or line.startswith("#"):
+                continue
+            with self.subTest(line):
+                name, caption, words = line.split("\t")
+                self.assertTrue(caption)
+                self.assertFalse((self.folder / f"{name}.png").exists(), "this name is taken")
+                result = self.run_program(*words.split(), "-o", f"{name}.png")
+                self.assertEqual(result.returncode, 0, result.stderr)
+
+
+if __name__ == "__main__":
+    unittest.main()
