@@ -84,9 +84,31 @@ private:
 
 // ---- Rows ----
 
+// Half the size in both directions: all fractions are one half.
+void halve(const ResizeCall& tile) {
+  constexpr s64 L = Vec<f32>::kLanes;
+  const s64 n = tile.columns.count;
+  const Mix<f32> mean = {Vec<f32>::splat(0.5f)};
+  const auto pairs = [&](const f32* p) {
+    const Pair<f32> pixels = evenAndOdd(p);
+    return mean(pixels.lo, pixels.hi);
+  };
+  for (s64 y = 0; y < tile.rows.count; ++y) {
+    const f32* above = rowAt(static_cast<const f32*>(tile.src), 2 * y, tile.srcStep);
+    const f32* below = core::at(above, tile.srcStep);
+    f32* dst = rowAt(static_cast<f32*>(tile.dst), y, tile.dstStep);
+    const auto squares = [&](s64 i) { return inMemoryOrder(mean(pairs(above + 2 * i), pairs(below + 2 * i))); };
+    for (s64 i = 0; i + L <= n; i += L) squares(i).store(dst + i);
+    squares(n - L).store(dst + n - L);
+  }
+}
+
 template <class T, int C>
 void linear(const LinearCall& call) {
   const ResizeCall& tile = call.tile;
+  if constexpr (std::is_same_v<T, f32> && C == 1) {
+    if (tile.columns.halves && tile.rows.halves && tile.columns.count >= Vec<f32>::kLanes) return halve(tile);
+  }
   const Columns<T, C> columns(call);
   const auto resample = [&](const T* src, T* row) { columns.resample(src, row); };
   KeptRows<T, decltype(resample)> kept(call, resample);

@@ -28,7 +28,7 @@ constexpr s64 kStripElements = 2048 / sizeof(T);
 constexpr s16 kNoTie = 1;
 
 // Twice the d whose product with w leaves 8191 modulo 16384.
-RNX_INLINE s16 tieOf(u32 w) {
+RNX_INLINE s16 fixedTie(u32 w) {
   if (w % 2 == 0) return kNoTie;
   u32 inverse = w;  // right to 3 bits; each step doubles them
   for (int bits = 3; bits < kShift; bits *= 2) inverse *= 2 - w * inverse;
@@ -61,10 +61,10 @@ struct Of8u {
   };
 
   static RNX_INLINE u32 weightOf(Weight pair) { return pair >> 16; }
-  static RNX_INLINE bool setWeight(Tables& t, s64 slot, u32 w) {
+  static RNX_INLINE s16 tieOf(u32 w) { return fixedTie(w); }
+  static RNX_INLINE void setWeight(Tables& t, s64 slot, u32 w, s16 tie) {
     t.weights[slot] = static_cast<s16>(w);
-    t.ties[slot] = tieOf(w);
-    return t.ties[slot] != kNoTie;
+    t.ties[slot] = tie;
   }
 
   template <bool Ties>
@@ -86,7 +86,13 @@ struct Of8u {
   static RNX_INLINE Rows<Ties> rows(u32 w) {
     return {Vec<s16>::splat(static_cast<s16>(w)), Vec<s16>::splat(tieOf(w))};
   }
-  static RNX_INLINE bool hasTie(u32 w) { return tieOf(w) != kNoTie; }
+
+  // At w = 4096 the result is (3 a + b + 2) >> 2: the mean, rounded up, of a and of the mean of a and b, rounded down.
+  struct Quarter {
+    RNX_INLINE Vec<u8> operator()(Vec<u8> a, Vec<u8> b) const {
+      return average(a, average(a, b) - ((a ^ b) & Vec<u8>::splat(1)));
+    }
+  };
 
   // The buffer holds results as they are.
   static RNX_INLINE Vec<u8> finish(Vec<u8> row) { return row; }
@@ -115,10 +121,8 @@ struct Of16 {
     return static_cast<u32>(std::clamp(w, 0, kOne));
   }
   static RNX_INLINE FixedPair pairOf(u32 w) { return kOne - w + (w << 16); }
-  static RNX_INLINE bool setWeight(Tables& t, s64 slot, u32 w) {
-    t.weights[slot] = pairOf(w);
-    return false;
-  }
+  static RNX_INLINE void setWeight(Tables& t, s64 slot, u32 w, s16) { t.weights[slot] = pairOf(w); }
+  static RNX_INLINE s16 tieOf(u32) { return kNoTie; }
 
   static RNX_INLINE Vec<s16> bias(Vec<s16> v) { return std::is_unsigned_v<T> ? v ^ Vec<s16>::splat(INT16_MIN) : v; }
 
@@ -141,7 +145,6 @@ struct Of16 {
   static RNX_INLINE Rows<Ties> rows(u32 w) {
     return {Vec<u32>::splat(pairOf(w)).template as<s16>()};
   }
-  static RNX_INLINE bool hasTie(u32) { return false; }
 
   static RNX_INLINE Vec<T> finish(Vec<T> row) { return bias(row.template as<s16>()).template as<T>(); }
 };
@@ -162,15 +165,14 @@ public:
       : call_(call), index_(call.tile.columns.index + first), elements_(columns * C) {
     setWeights(static_cast<const typename Kind::Weight*>(call.columnWeights) + first, columns);
     Extent extent = {INT64_MAX, INT64_MIN};
-    s64 span = 1;
-    for (s64 q = 0; q < blocks(); ++q) {
-      const Extent block = extentOf(q);
-      span = std::max(span, block.end - block.low);
-      extent = {std::min(extent.low, block.low), std::max(extent.end, block.end)};
+    windows_ = windowsFor(placeBlocks(extent), extent);
+    if (windows_ == 0 || windows_ > kMostTableWindows) {
+      windows_ = 0;
+      placePairs();
+    } else {
+      for (s64 q = 0; q < blocks(); ++q) bases_[q] = baseFor(bases_[q], windows_, extent);
+      setPicks();
     }
-    windows_ = windowsFor(span, extent);
-    if (windows_ > kMostTableWindows) windows_ = 0;
-    for (s64 q = 0; q < blocks(); ++q) windows_ == 0 ? placeBlock(q) : buildBlock(q, extent);
   }
 
   s64 elements() const { return elements_; }
@@ -198,9 +200,6 @@ private:
 
   s64 vectors() const { return (elements_ + kVectorElements - 1) / kVectorElements; }
   s64 blocks() const { return vectors() * 2 * kBlocksPerVector; }
-  // Behind the last element the tables repeat it.
-  s64 elementAt(s64 q, s64 i) const { return std::min(q * kBlockElements + i, elements_ - 1); }
-
   s64 first(s64 column) const {
     return firstNeighbour(call_.columnNeighbours, index_[column]) - call_.tile.columns.origin;
   }
@@ -208,55 +207,70 @@ private:
     return secondNeighbour(call_.columnNeighbours, index_[column]) - call_.tile.columns.origin;
   }
 
+  static s64 slotOf(s64 element) {
+    return slotForNarrowing(element / kBlockElements) * kBlockElements + element % kBlockElements;
+  }
+
   void setWeights(const typename Kind::Weight* weights, s64 columns) {
     ties_ = false;
     s64 element = 0;
-    const auto set = [&](u32 w) {
-      const s64 slot = slotForNarrowing(element / kBlockElements) * kBlockElements + element % kBlockElements;
-      ties_ = Kind::setWeight(tables_, slot, w) || ties_;
-      ++element;
-    };
     for (s64 column = 0; column < columns; ++column) {
       const u32 w = Kind::weightOf(weights[column]);
-      for (int c = 0; c < C; ++c) set(w);
+      const s16 tie = Kind::tieOf(w);
+      ties_ = ties_ || tie != kNoTie;
+      for (int c = 0; c < C; ++c) Kind::setWeight(tables_, slotOf(element++), w, tie);
     }
-    while (element < vectors() * kVectorElements) set(0);
+    while (element < vectors() * kVectorElements) Kind::setWeight(tables_, slotOf(element++), 0, kNoTie);
   }
 
-  // Bytes of the source row from which the block is gathered.
-  Extent extentOf(s64 q) const {
-    Extent extent = {INT64_MAX, INT64_MIN};
-    const s64 from = elementAt(q, 0), to = elementAt(q, kBlockElements - 1);
-    for (s64 column = from / C; column <= to / C; ++column) {
-      const s64 low = column == from / C ? from % C : 0, high = column == to / C ? to % C : C - 1;
-      const s64 a = first(column) * C, b = second(column) * C;
-      extent.low = std::min(extent.low, std::min(a, b) + low);
-      extent.end = std::max(extent.end, std::max(a, b) + high + 1);
+  // Calls f(element, offset of its first neighbour, of its second) up to the end of the last vector; behind the last
+  // element that one repeats.
+  template <class F>
+  RNX_INLINE void forEachPair(F f) const {
+    constexpr s64 kBytesOf = sizeof(T);
+    s64 element = 0, a = 0, b = 0;
+    for (s64 column = 0; column < elements_ / C; ++column) {
+      a = first(column) * C * kBytesOf;
+      b = second(column) * C * kBytesOf;
+      for (int c = 0; c < C; ++c) f(element++, a + c * kBytesOf, b + c * kBytesOf);
     }
-    return {extent.low * s64{sizeof(T)}, extent.end * s64{sizeof(T)}};
+    while (element < vectors() * kVectorElements) f(element++, a + (C - 1) * kBytesOf, b + (C - 1) * kBytesOf);
   }
 
-  void buildBlock(s64 q, const Extent& extent) {
-    const s64 slot = slotForNarrowing(q);
-    const s64 base = baseFor(extentOf(q).low, windows_, extent);
-    const s64 bias = (windows_ == 1 ? kStoredBias<1> : kStoredBias<2>)-base;
-    bases_[slot] = base;
-    u8* picks = picks_ + slot * kBlockBytes;
-    for (s64 i = 0; i < kBlockElements; ++i) {
-      const s64 element = elementAt(q, i), column = element / C, channel = element % C;
-      const s64 offsets[2] = {(first(column) * C + channel) * s64{sizeof(T)} + bias,
-                              (second(column) * C + channel) * s64{sizeof(T)} + bias};
-      for (const s64 offset : offsets) {
-        for (s64 byte = 0; byte < s64{sizeof(T)}; ++byte) *picks++ = static_cast<u8>(offset + byte);
+  // Sets the bases to the first byte of each block. Returns the longest way from first to last, and the extent of all.
+  s64 placeBlocks(Extent& extent) {
+    s64 span = 0, low = INT64_MAX, end = INT64_MIN;
+    forEachPair([&](s64 element, s64 a, s64 b) {
+      low = std::min(low, std::min(a, b));
+      end = std::max(end, std::max(a, b) + s64{sizeof(T)});
+      if (element % kBlockElements != kBlockElements - 1) return;
+      bases_[slotForNarrowing(element / kBlockElements)] = low;
+      span = std::max(span, end - low);
+      extent = {std::min(extent.low, low), std::max(extent.end, end)};
+      low = INT64_MAX, end = INT64_MIN;
+    });
+    return span;
+  }
+
+  void setPicks() {
+    const s64 bias = windows_ == 1 ? kStoredBias<1> : kStoredBias<2>;
+    forEachPair([&](s64 element, s64 a, s64 b) {
+      const s64 slot = slotOf(element), base = bases_[slot / kBlockElements] - bias;
+      u8* picks = picks_ + slot * kPairBytes;
+      for (int byte = 0; byte < static_cast<int>(sizeof(T)); ++byte) {
+        picks[byte] = static_cast<u8>(a - base + byte);
+        picks[byte + static_cast<int>(sizeof(T))] = static_cast<u8>(b - base + byte);
       }
-    }
+    });
   }
 
   // Without windows the pairs are collected one by one, and the blocks lie in order.
-  void placeBlock(s64 q) {
-    const s64 slot = slotForNarrowing(q);
-    bases_[slot] = q * kBlockBytes;
-    for (int i = 0; i < kBlockBytes; ++i) picks_[slot * kBlockBytes + i] = static_cast<u8>(i);
+  void placePairs() {
+    for (s64 q = 0; q < blocks(); ++q) {
+      const s64 slot = slotForNarrowing(q);
+      bases_[slot] = q * kBlockBytes;
+      for (int i = 0; i < kBlockBytes; ++i) picks_[slot * kBlockBytes + i] = static_cast<u8>(i);
+    }
   }
 
   void collectPairs(const T* src) {
@@ -311,7 +325,7 @@ void mixRows(typename Kind::Element* dst, s64 n, bool stream, const typename Kin
   if (w == 0 || w == kOne) {
     elementWise(
         dst, n, stream, [](Vec<T> v) { return Kind::finish(v); }, w == 0 ? first : second);
-  } else if (Kind::hasTie(w)) {
+  } else if (Kind::tieOf(w) != kNoTie) {
     elementWise(dst, n, stream, Kind::template rows<true>(w), first, second);
   } else {
     elementWise(dst, n, stream, Kind::template rows<false>(w), first, second);
@@ -337,33 +351,39 @@ void linearStrip(const LinearCall& call, s64 first, s64 columns) {
   }
 }
 
-// ---- 8u at half the size in both directions: all weights are one half, and R is the mean rounded up ----
+// ---- Half the size in both directions: all weights are one half, and R is the mean rounded up ----
 
 template <int C>
+RNX_INLINE Vec<u8> halved(const u8* above, const u8* below) {
+  return C == 1 ? squareMeans(above, below) : squareMeans4(above, below);
+}
+template <int C>
+RNX_INLINE Vec<u16> halved(const u16* above, const u16* below) {
+  return squareMeans(above, below);
+}
+
+template <class T, int C>
 void halve(const LinearCall& call) {
+  constexpr s64 L = Vec<T>::kLanes;
   const s64 n = call.tile.columns.count * C;
-  const auto means = [](const u8* row, s64 i) {
-    const Vec<u8> a = Vec<u8>::load(row + 2 * i), b = Vec<u8>::load(row + 2 * i + kBytes);
-    return C == 1 ? pairMeans1(a, b) : pairMeans4(a, b);
-  };
   for (s64 y = 0; y < call.tile.rows.count; ++y) {
-    const u8* above = rowAt(static_cast<const u8*>(call.tile.src), 2 * y, call.tile.srcStep);
-    const u8* below = core::at(above, call.tile.srcStep);
-    u8* dst = rowAt(static_cast<u8*>(call.tile.dst), y, call.tile.dstStep);
-    for (s64 i = 0; i + kBytes <= n; i += kBytes) average(means(above, i), means(below, i)).store(dst + i);
-    const s64 last = n - kBytes;
-    average(means(above, last), means(below, last)).store(dst + last);
+    const T* above = rowAt(static_cast<const T*>(call.tile.src), 2 * y, call.tile.srcStep);
+    const T* below = core::at(above, call.tile.srcStep);
+    T* dst = rowAt(static_cast<T*>(call.tile.dst), y, call.tile.dstStep);
+    for (s64 i = 0; i + L <= n; i += L) halved<C>(above + 2 * i, below + 2 * i).store(dst + i);
+    halved<C>(above + 2 * (n - L), below + 2 * (n - L)).store(dst + n - L);
   }
 }
 
 template <class Kind, int C>
 void linear(const LinearCall& call) {
+  using T = typename Kind::Element;
   const s64 columns = call.tile.columns.count;
-  if constexpr (std::is_same_v<Kind, Of8u> && C != 3) {
-    if (call.tile.columns.halves && call.tile.rows.halves && columns * C >= kBytes) return halve<C>(call);
+  if constexpr (C == 1 ? std::is_unsigned_v<T> : C == 4 && sizeof(T) == 1) {
+    const bool halves = call.tile.columns.halves && call.tile.rows.halves;
+    if (halves && columns * C >= Vec<T>::kLanes) return halve<T, C>(call);
   }
-  forEachStrip(columns, kStripElements<typename Kind::Element> / C,
-               [&](s64 first, s64 count) { linearStrip<Kind, C>(call, first, count); });
+  forEachStrip(columns, kStripElements<T> / C, [&](s64 first, s64 count) { linearStrip<Kind, C>(call, first, count); });
 }
 
 template <class Kind>

@@ -50,7 +50,7 @@ void halveColumns(const ResizeCall& call) {
 
 // ---- Pixels of up to four bytes: gathered by table ----
 
-constexpr int kStripBytes = 4096;
+constexpr int kStripBytes = 8192;
 
 template <int P>
 class ByteTable {

@@ -85,19 +85,40 @@ RNX_INLINE Vec<u32> everySecond(const u32* p) {
   return Vec<u32>::of(inMemoryOrder(reinterpret_cast<Int>(RNX_MM(shuffle_ps)(even.raw, odd.raw, 0xD8))));
 }
 
-// Means (a + b + 1) >> 1 of the pairs (0, 1), (2, 3), ... of pixels of one or four bytes, from two vectors of them.
-RNX_INLINE Vec<u8> pairMeans1(Vec<u8> a, Vec<u8> b) {
-  const Vec<u16> low = Vec<u16>::splat(0xFF);
-  const auto mean = [&](Vec<u8> v) {
-    return average(v.as<u16>() & low, Vec<u16>::of(RNX_MM(srli_epi16)(v.bits(), 8)));
+// One vector of means of two by two pixels: (a + b + 1) >> 1 of the pairs (0, 1), (2, 3), ... of both rows, then the same
+// of the two.
+RNX_INLINE Vec<u8> squareMeans(const u8* above, const u8* below) {
+  const auto pairs = [](const u8* p) {
+    const Int sums = RNX_MM(maddubs_epi16)(Vec<u8>::load(p).bits(), Vec<u8>::splat(1).bits());
+    return average(Vec<u16>::of(sums), Vec<u16>::zero());
   };
-  return Vec<u8>::of(inMemoryOrder(RNX_MM(packus_epi16)(mean(a).bits(), mean(b).bits())));
+  const auto squares = [&](int i) { return average(pairs(above + i), pairs(below + i)).bits(); };
+  return Vec<u8>::of(inMemoryOrder(RNX_MM(packus_epi16)(squares(0), squares(kBytes))));
 }
-RNX_INLINE Vec<u8> pairMeans4(Vec<u8> a, Vec<u8> b) {
-  const Vec<f32> x = a.as<f32>(), y = b.as<f32>();
-  const auto even = reinterpret_cast<Int>(RNX_MM(shuffle_ps)(x.raw, y.raw, 0x88));
-  const auto odd = reinterpret_cast<Int>(RNX_MM(shuffle_ps)(x.raw, y.raw, 0xDD));
-  return Vec<u8>::of(inMemoryOrder(RNX_MM(avg_epu8)(even, odd)));
+RNX_INLINE Vec<u16> squareMeans(const u16* above, const u16* below) {
+  const auto pairs = [](const u16* p) {  // in the even elements
+    const Vec<u16> v = Vec<u16>::load(p);
+    return average(v, Vec<u16>::of(RNX_MM(srli_epi32)(v.bits(), 16)));
+  };
+  const auto squares = [&](int i) {
+    return (average(pairs(above + i), pairs(below + i)).as<u32>() & Vec<u32>::splat(0xFFFF)).bits();
+  };
+  return Vec<u16>::of(inMemoryOrder(RNX_MM(packus_epi32)(squares(0), squares(Vec<u16>::kLanes))));
+}
+
+// Elements 0 2 4 ... and 1 3 5 ... of two vectors of 32-bit elements, in the order that inMemoryOrder puts right.
+RNX_INLINE Pair<f32> evenAndOdd(const f32* p) {
+  const Vec<f32> a = Vec<f32>::load(p), b = Vec<f32>::load(p + Vec<f32>::kLanes);
+  return {{RNX_MM(shuffle_ps)(a.raw, b.raw, 0x88)}, {RNX_MM(shuffle_ps)(a.raw, b.raw, 0xDD)}};
+}
+RNX_INLINE Vec<f32> inMemoryOrder(Vec<f32> v) { return Vec<f32>::of(inMemoryOrder(v.bits())); }
+// Squares of pixels of four bytes.
+RNX_INLINE Vec<u8> squareMeans4(const u8* above, const u8* below) {
+  const auto pairs = [](const u8* p) {
+    const Pair<f32> pixels = evenAndOdd(reinterpret_cast<const f32*>(p));
+    return average(pixels.lo.as<u8>(), pixels.hi.as<u8>());
+  };
+  return Vec<u8>::of(inMemoryOrder(average(pairs(above), pairs(below)).bits()));
 }
 
 // (a * b + 2^14) >> 15 of signed factors whose product does not overflow it.

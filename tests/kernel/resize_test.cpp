@@ -12,11 +12,13 @@ struct Pair {
   Extent2 src, dst;
 };
 
-// Up, down, equal, halves, doubles, coprime sizes, single pixels, rows longer than the kernels' strips.
-const Pair kPairs[] = {{{2, 2}, {7, 5}},      {{3, 2}, {1, 1}},     {{2, 9}, {1, 40}},   {{19, 6}, {19, 6}},
-                       {{80, 12}, {40, 6}},   {{34, 16}, {17, 8}},  {{33, 5}, {66, 10}}, {{17, 13}, {101, 29}},
-                       {{101, 29}, {17, 13}}, {{64, 4}, {100, 7}},  {{97, 6}, {31, 9}},  {{300, 3}, {37, 5}},
-                       {{47, 9}, {46, 4}},    {{150, 5}, {50, 20}}, {{90, 7}, {61, 31}}};
+// Up, down, equal, halves, doubles, coprime sizes, single pixels; most with results of 2 KiB, so that the wide kernels
+// run.
+const Pair kPairs[] = {{{2, 2}, {7, 5}},       {{3, 2}, {1, 1}},     {{2, 9}, {1, 40}},    {{19, 6}, {19, 6}},
+                       {{80, 104}, {40, 52}},  {{34, 16}, {17, 8}},  {{33, 5}, {66, 40}},  {{17, 13}, {101, 29}},
+                       {{101, 29}, {17, 130}}, {{64, 4}, {100, 27}}, {{97, 6}, {31, 70}},  {{300, 3}, {37, 60}},
+                       {{70, 30}, {70, 30}},   {{47, 9}, {46, 50}},  {{150, 5}, {50, 50}}, {{90, 7}, {61, 41}}};
+// Rows longer than the kernels' strips.
 const Pair kWidePairs[] = {{{500, 2}, {2101, 3}}, {{4202, 4}, {2101, 2}}, {{5000, 2}, {4150, 2}}};
 
 ref::Border borderOf(u32 border, u32 before, u32 after) {
