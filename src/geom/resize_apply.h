@@ -37,7 +37,8 @@ inline TileAxis tileAxis(const Axis& axis, const s32* index, s64 offset, s64 len
   return {.index = index + offset,
           .count = std::min(length, axis.destination - offset),
           .origin = sourceOffset(axis, offset),
-          .halves = axis.reducedSource == 2 && axis.reducedDestination == 1};
+          .halves = axis.reducedSource == 2 && axis.reducedDestination == 1,
+          .doubles = axis.reducedSource == 1 && axis.reducedDestination == 2 && offset % 2 == 0};
 }
 
 // The kernels follow the entries without looking at them again. Those of an Init function always pass.

@@ -28,7 +28,9 @@ struct TileAxis {
   const s32* index;
   s64 count;
   s64 origin;
-  bool halves;  // source position 2 i or the pair (2 i, 2 i + 1) for destination position i, by the size of the images
+  // By the sizes of the images, positions counted from the tile's first and from the origin:
+  bool halves;   // position i takes source position 2 i, or the pair (2 i, 2 i + 1)
+  bool doubles;  // nearest: positions 2 i and 2 i + 1 take source position i
 };
 
 // The neighbours of source position x are x and x + 1, but for the first of position -1 and the second of the last

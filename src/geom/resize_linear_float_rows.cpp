@@ -99,7 +99,7 @@ void halve(const ResizeCall& tile) {
     f32* dst = rowAt(static_cast<f32*>(tile.dst), y, tile.dstStep);
     const auto squares = [&](s64 i) { return inMemoryOrder(mean(pairs(above + 2 * i), pairs(below + 2 * i))); };
     for (s64 i = 0; i + L <= n; i += L) squares(i).store(dst + i);
-    squares(n - L).store(dst + n - L);
+    if (n % L != 0) squares(n - L).store(dst + n - L);
   }
 }
 

@@ -371,7 +371,7 @@ void halve(const LinearCall& call) {
     const T* below = core::at(above, call.tile.srcStep);
     T* dst = rowAt(static_cast<T*>(call.tile.dst), y, call.tile.dstStep);
     for (s64 i = 0; i + L <= n; i += L) halved<C>(above + 2 * i, below + 2 * i).store(dst + i);
-    halved<C>(above + 2 * (n - L), below + 2 * (n - L)).store(dst + n - L);
+    if (n % L != 0) halved<C>(above + 2 * (n - L), below + 2 * (n - L)).store(dst + n - L);
   }
 }
 

@@ -44,7 +44,7 @@ void halveColumns(const ResizeCall& call) {
     const T* src = reinterpret_cast<const T*>(srcRow);
     T* dst = reinterpret_cast<T*>(dstRow);
     for (s64 i = 0; i + L <= n; i += L) everySecond(src + 2 * i).store(dst + i);
-    everySecond(src + 2 * (n - L)).store(dst + n - L);
+    if (n % L != 0) everySecond(src + 2 * (n - L)).store(dst + n - L);
   });
 }
 
@@ -167,6 +167,20 @@ void copyEachPixel(const ResizeCall& call, s64 first, s64 count) {
                 [&](const u8* src, u8* dst) { copyPixels<P>(call.columns, first, count, src, dst); });
 }
 
+// ---- Every column twice, four bytes each ----
+
+void doubleColumns(const ResizeCall& call) {
+  constexpr s64 L = Vec<u32>::kLanes;
+  const s64 n = call.columns.count;
+  forEachRow<4>(call, 0, n * 4, [&](const u8* src, u8* dst) {
+    s64 i = 0;
+    for (; i + 2 * L <= n; i += 2 * L) {
+      storeTwice(Vec<u32>::load(reinterpret_cast<const u32*>(src) + i / 2), reinterpret_cast<u32*>(dst) + i);
+    }
+    if (i < n) copyPixels<4>(call.columns, i, n - i, src, dst + i * 4);
+  });
+}
+
 // ---- Choice ----
 
 template <int P>
@@ -184,6 +198,9 @@ void nearest(const ResizeCall& call) {
   if constexpr (P == 1 || P == 2 || P == 4) {
     using T = std::conditional_t<P == 1, u8, std::conditional_t<P == 2, u16, u32>>;
     if (columns.halves && n >= Vec<T>::kLanes) return halveColumns<T>(call);
+  }
+  if constexpr (P == 4) {
+    if (columns.doubles) return doubleColumns(call);
   }
   if constexpr (P <= 4) {
     const Extent extent = {(first - columns.origin) * P, (last - columns.origin + 1) * P};

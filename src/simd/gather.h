@@ -152,6 +152,18 @@ RNX_INLINE Pair<f32> gatherNeighbours(const f32* row, const s32* x) {
   return {{RNX_MM(shuffle_ps)(a, b, 0x88)}, {RNX_MM(shuffle_ps)(a, b, 0xDD)}};
 }
 
+// v0 v0 v1 v1 ...
+RNX_INLINE void storeTwice(Vec<u32> v, u32* to) {
+  const Int low = RNX_MM(unpacklo_epi32)(v.bits(), v.bits()), high = RNX_MM(unpackhi_epi32)(v.bits(), v.bits());
+#if RNX_VECTOR_BYTES == 32
+  Vec<u32>::of(_mm256_permute2x128_si256(low, high, 0x20)).store(to);
+  Vec<u32>::of(_mm256_permute2x128_si256(low, high, 0x31)).store(to + Vec<u32>::kLanes);
+#else
+  Vec<u32>::of(low).store(to);
+  Vec<u32>::of(high).store(to + Vec<u32>::kLanes);
+#endif
+}
+
 // (p1 - p0) * fraction + p0 of four elements.
 RNX_INLINE void mixFour(const f32* p0, const f32* p1, f32 fraction, f32* to) {
   const __m128 a = _mm_loadu_ps(p0), b = _mm_loadu_ps(p1);
