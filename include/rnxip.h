@@ -11,5 +11,6 @@
 #include "rnxip/data.h"
 #include "rnxip/fft.h"
 #include "rnxip/filter.h"
+#include "rnxip/geom.h"
 
 #endif
