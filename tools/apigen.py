@@ -104,14 +104,39 @@ class Chapter:
 # ---- Reading the table ----
 
 
+def parse(path):
+    try:
+        return tomllib.loads(path.read_text())
+    except tomllib.TOMLDecodeError as error:
+        raise Mistake(f"api/{path.name}: {error}") from None
+
+
+def require(entry, keys, where):
+    for key in keys.split():
+        if key not in entry:
+            raise Mistake(f"{where}: '{key}' is missing")
+
+
+class Placeholders(dict):
+    """What fills the {...} of a text of the table."""
+
+    def __init__(self, where, values):
+        super().__init__(values)
+        self.where = where
+
+    def __missing__(self, name):
+        raise Mistake(f"{self.where}: unknown placeholder {{{name}}}")
+
+
 def load():
-    arguments = tomllib.loads((API / "arguments.toml").read_text())
-    checks = tomllib.loads((API / "checks.toml").read_text())
+    arguments = parse(API / "arguments.toml")
+    checks = parse(API / "checks.toml")
     chapters = []
     for path in sorted(API.glob("*.toml")):
         if path.stem in ("arguments", "checks"):
             continue
-        table = tomllib.loads(path.read_text())
+        table = parse(path)
+        require(table, "subsystem title include family", f"api/{path.name}")
         # A file may add arguments and checks of its own.
         for shared, own in ((arguments, "argument"), (checks, "check")):
             for name, entry in table.get(own, {}).items():
@@ -119,6 +144,7 @@ def load():
                     raise Mistake(f"api/{path.name}: {own} '{name}' is declared twice")
         chapter = Chapter(table["subsystem"], table["title"], table.get("doc", ""), table["include"], [])
         for raw in table["family"]:
+            require(raw, "name brief", f"api/{path.name}: family {raw.get('name', '?')}")
             family = Family(chapter.subsystem, chapter.title, raw["name"], raw, f"api/{path.name}")
             expand_family(family, table.get("shape", {}), arguments, checks)
             chapter.families.append(family)
@@ -141,6 +167,7 @@ class Table:
 def expand_family(family, shapes, arguments, checks):
     raw = family.raw
     narrowed = {key: raw[key] for key in ("types", "layouts") if key in raw}  # of the shapes, by the family
+    require(shapes, raw.get("shapes", ""), f"{family.file}: family {family.name}, shapes")
     grids = [(f"shape {name}", shapes[name] | narrowed) for name in raw.get("shapes", "").split()]
     grids += [(f"grid {i + 1}", grid) for i, grid in enumerate(raw.get("grid", []))]
     if not grids:
@@ -148,10 +175,11 @@ def expand_family(family, shapes, arguments, checks):
     for label, grid in grids:
         where = f"{family.file}: family {family.name}, {label}"
         # A grid without forms is a single form whose name adds nothing.
-        forms = grid.get("forms") or {"plain": {"args": grid["args"], "impl": grid["impl"]}}
+        forms = grid.get("forms") or {"plain": {key: grid[key] for key in ("args", "impl") if key in grid}}
         for types in grid.get("types", "-").split():
             for layout in grid.get("layouts", "-").split():
                 for form_name, form in forms.items():
+                    require(form, "args impl", where)
                     for is_long in lengths(grid, form):
                         row = Row(family, grid, form, types, layout, form_name, is_long, where)
                         family.exports.append(row.export(arguments, checks))
@@ -199,7 +227,7 @@ class Row:
         implementation = self.form["impl"].format_map(internal)
         if self.is_long:
             long = self.form.get("long", self.grid.get("long"))
-            implementation = long.format_map(internal | {"impl": implementation})
+            implementation = long.format_map(Placeholders(self.where, internal | {"impl": implementation}))
         listed = self.form.get("checks", self.grid.get("checks", self.family.raw.get("checks", ""))).split()
         for check in listed:
             if check not in checks:
@@ -225,7 +253,7 @@ class Row:
             }
         if "op" in self.family.raw:
             internal["Op"] = self.family.raw["op"]
-        return public, internal
+        return Placeholders(self.where, public), Placeholders(self.where, internal)
 
     def expand_role(self, role, arguments, layout, public):
         if role not in arguments:
@@ -236,10 +264,10 @@ class Row:
             if layout not in text:
                 raise Mistake(f"{self.where}: argument '{role}' has no form for layout {layout}")
             text = text[layout]
-        for parameter in text.format_map(public).split(","):
+        for parameter in text.format_map(Placeholders(f"{self.where}, argument '{role}'", public)).split(","):
             match = re.fullmatch(r"(.*?[ *])(\w+)((?:\[\d*\])?)", parameter.strip())
             if not match:
-                raise Mistake(f"arguments.toml: cannot read '{parameter}'")
+                raise Mistake(f"{self.where}, argument '{role}': cannot read '{parameter}'")
             c_type, name, array = match[1].strip(), match[2], match[3]
             yield Parameter(c_type + ("*" if array else ""), name, role, array)
 
