@@ -46,6 +46,11 @@ void check(RnxStatus status) {
   if (status == rnxStatusWarningDivByZero) std::fputs("rnximg: warning: a divisor is 0\n", stderr);
 }
 
+Settings& settings() {
+  static Settings all;
+  return all;
+}
+
 // ---- Arguments ----
 
 const std::string& Arguments::word(const char* what) {
@@ -84,6 +89,8 @@ std::array<Rnx8u, 3> Arguments::levels(const char* what, const Image& image) {
   for (size_t i = first; i < next_; ++i) parseWithin(what, words_[i], 0, 255, "an integer");
   return {static_cast<Rnx8u>(values[0]), static_cast<Rnx8u>(values[1]), static_cast<Rnx8u>(values[2])};
 }
+
+Image Arguments::image(const char* what, const Image& image) { return readImage(word(what), image.channels()); }
 
 Image Arguments::sameSizeImage(const char* what, const Image& image) {
   const std::string& path = word(what);
