@@ -22,6 +22,19 @@ constexpr bool reaches(int in, int out, int i, int j) {
   return false;
 }
 
+// The same for every pair of chunks.
+template <int In, int Out>
+struct Reach {
+  bool any[Out][In + 1] = {};
+  constexpr Reach() {
+    for (int j = 0; j < Out; ++j) {
+      for (int i = 0; i < In; ++i) any[j][i] = reaches(In, Out, i, j);
+    }
+  }
+};
+template <int In, int Out>
+constexpr Reach<In, Out> kReach;
+
 enum class Order { kPixels, kPlanes };  // kPlanes: on either side
 
 template <int In, int Out, Order O, bool Keeps>
@@ -29,13 +42,17 @@ class Mover {
 public:
   explicit Mover(const ChannelCall& call) : call_(call) {
     const auto value = everyGroup(loadChunk(call.value));
+    RNX_UNROLL
     for (int j = 0; j < Out; ++j) {
       const auto at = everyGroup(loadChunk(reinterpret_cast<const u8*>(call.positions->at) + j * kChunk));
+      RNX_UNROLL
       for (int i = 0; i < In; ++i) index_[j][i] = indexInto(i, at);
       keep_[j] = equal(at, Vec<u8>::splat(static_cast<u8>(kKeep)));
       value_[j] = equal(at, Vec<u8>::splat(static_cast<u8>(kValue))).template as<u8>() & value;
     }
+    RNX_UNROLL
     for (int i = 0; i < In; ++i) src_[i] = call.route->srcPlanar ? call.src[i] : call.src[0] + i * kChunk;
+    RNX_UNROLL
     for (int j = 0; j < Out; ++j) dst_[j] = call.route->dstPlanar ? call.dst[j] : call.dst[0] + j * kChunk;
     srcPixel_ = call.elementBytes * (call.route->srcPlanar ? 1 : call.route->srcChannels);
     dstPixel_ = call.elementBytes * (call.route->dstPlanar ? 1 : call.route->dstChannels);
@@ -47,13 +64,16 @@ public:
 
   RNX_INLINE Result compute(s64 x, s64 apart) const {
     Vec<u8> in[In + 1];
+    RNX_UNROLL
     for (int i = 0; i < In; ++i) in[i] = loadChunks(src_[i] + x * srcPixel_, apart * srcPixel_);
     Result result;
+    RNX_UNROLL
     for (int j = 0; j < Out; ++j) {
       Vec<u8> v = value_[j];
       bool first = In > 0 && !Keeps && !kHasValue;
+      RNX_UNROLL
       for (int i = 0; i < In; ++i) {
-        if (O == Order::kPixels && !reaches(In, Out, i, j)) continue;
+        if (O == Order::kPixels && !kReach<In, Out>.any[j][i]) continue;
         const Vec<u8> part = shuffle(in[i], index_[j][i]);
         v = first ? part : v | part;
         first = false;
@@ -65,6 +85,7 @@ public:
   }
 
   RNX_INLINE void store(s64 x, s64 apart, const Result& result) const {
+    RNX_UNROLL
     for (int j = 0; j < Out; ++j) storeChunks(dst_[j] + x * dstPixel_, apart * dstPixel_, result.chunk[j]);
   }
 

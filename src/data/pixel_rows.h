@@ -178,14 +178,17 @@ private:
 
   static RNX_INLINE Group load(const u8* p, s64 apart) {
     Group group;
+    RNX_UNROLL
     for (int i = 0; i < kChunks; ++i) group.chunk[i] = loadChunks(p + i * kChunk, apart);
     return group;
   }
   static RNX_INLINE void store(u8* p, s64 apart, const Group& group) {
+    RNX_UNROLL
     for (int i = 0; i < kChunks; ++i) storeChunks(p + i * kChunk, apart, group.chunk[i]);
   }
   static RNX_INLINE Group merge(const Group& group, const Group& old) {
     Group merged;
+    RNX_UNROLL
     for (int i = 0; i < kChunks; ++i) merged.chunk[i] = merge(group.chunk[i], old.chunk[i]);
     return merged;
   }
@@ -193,8 +196,10 @@ private:
   static RNX_INLINE Group reversed(const Group& group) {
     if constexpr (P == 16) return group;
     Group result;
+    RNX_UNROLL
     for (int j = 0; j < kChunks; ++j) {
       bool first = true;
+      RNX_UNROLL
       for (int i = 0; i < kChunks; ++i) {
         if (!kReverseIndex<P>.used[j][i]) continue;
         const Vec<u8> part = shuffle(group.chunk[i], everyGroup(loadChunk(kReverseIndex<P>.at[j][i])));
@@ -229,6 +234,7 @@ private:
 
     Fill(u8* d, const u8* pixel) : dst(d) {
       const __m128i p = loadPixel<P>(pixel);
+      RNX_UNROLL
       for (int i = 0; i < kChunks; ++i) pattern.chunk[i] = everyGroup(repeat(p, i));
     }
     RNX_INLINE Group compute(s64 x, s64 apart) const {

@@ -23,10 +23,12 @@ struct Tile {
   // The groups at row y and `apart` rows further.
   static RNX_INLINE void move(const Image& image, s64 x, s64 y, s64 apart, s64) {
     Vec<u8> v[kRows];
+    RNX_UNROLL
     for (int r = 0; r < kRows; ++r) {
       v[r] = loadChunks(core::at(image.src, (y + r) * image.srcStep + x * P), apart * image.srcStep);
     }
     if constexpr (P < 16) transposeChunks<P>(v);
+    RNX_UNROLL
     for (int c = 0; c < kColumns; ++c) {
       u8* dst = core::at(image.dst, (x + c) * image.dstStep + y * P);
       if (Keeps) v[c] = select(Mask<u8>::load(kAlphaBytes<P>.at), loadChunks(dst, apart * P), v[c]);
@@ -71,7 +73,9 @@ requires(P % 3 == 0) struct Tile<P, Keeps> {
     const int early = (x + kColumns) * P + 4 > width * P ? 1 : 0;
     const Vec<u8> expand = everyGroup(loadChunk(kLaneIndex<P>.expand[early]));
     Vec<u8> v[4][kColumns];
+    RNX_UNROLL
     for (int s = 0; s < 4; ++s) {
+      RNX_UNROLL
       for (int c = 0; c < kColumns; ++c) {
         const s64 row = y + s * kColumns + c;
         v[s][c] = shuffle(
@@ -79,8 +83,10 @@ requires(P % 3 == 0) struct Tile<P, Keeps> {
       }
       if constexpr (kColumns > 1) transposeChunks<kLane>(v[s]);
     }
+    RNX_UNROLL
     for (int c = 0; c < kColumns; ++c) {
       Vec<u8> part[4];
+      RNX_UNROLL
       for (int s = 0; s < 4; ++s) part[s] = shuffle(v[s][c], everyGroup(loadChunk(kLaneIndex<P>.compress[s])));
       u8* dst = core::at(image.dst, (x + c) * image.dstStep + y * P);
       storeChunks(dst, apart * P, firstBytes<12>(part[0], part[1]));

@@ -91,12 +91,15 @@ RNX_INLINE Vec<u8> interleaveHigh(Vec<u8> a, Vec<u8> b) {
 template <int Bytes>
 RNX_INLINE void transposeChunks(Vec<u8>* rows) {
   constexpr int kRows = kChunk / Bytes;
+  RNX_UNROLL
   for (int run = 1; run < kRows; run *= 2) {
     Vec<u8> next[kRows];
+    RNX_UNROLL
     for (int i = 0; i < kRows / 2; ++i) {
       next[2 * i] = interleaveLow<Bytes>(rows[i], rows[i + kRows / 2]);
       next[2 * i + 1] = interleaveHigh<Bytes>(rows[i], rows[i + kRows / 2]);
     }
+    RNX_UNROLL
     for (int i = 0; i < kRows; ++i) rows[i] = next[i];
   }
 }
