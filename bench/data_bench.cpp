@@ -240,18 +240,17 @@ void mirrorRows(Size size) {
   flips("32f C1", 1, rnxiMirror_32f_C1R, float{});
 }
 
-// In place where the image is square.
 void transposeRows(Size size) {
+  const Size turned = {size.height, size.width};
   const auto one = [&]<class T>(const std::string& type, int channels, auto f, T) {
-    const int64_t bytes = 2 * channels * size.pixels() * static_cast<int64_t>(sizeof(T));
-    const int dstStep = size.height * channels * static_cast<int>(sizeof(T));
     addRow("Transpose " + type, size,
-           {floorOf(bytes),
-            ours(plain<T>(size, channels, channels,
-                          [=](const T* a, int as, T* d, int) { f(a, as, d, dstStep, size.roi()); })),
+           {floorOf(2 * channels * size.pixels() * static_cast<int64_t>(sizeof(T))), ours([=]() -> Work {
+              const Image<T> a(size, channels), d(turned, channels);
+              return [=] { f(a.data(), a.step(), d.data(), d.step(), size.roi()); };
+            }),
             opencv([=]() -> Work {
-              const Image<T> a(size, channels), d(size, channels);
-              cv::Mat dst = mat(d, Size{size.height, size.width}, channels);
+              const Image<T> a(size, channels), d(turned, channels);
+              cv::Mat dst = mat(d, turned, channels);
               return [=, keep = std::vector{a, d}, src = mat(a, size, channels)]() mutable {
                 RNX_OPENCV(cv::transpose(src, dst));
               };
