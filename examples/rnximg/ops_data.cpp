@@ -1,4 +1,6 @@
 // Mirror images, quarter turns, borders, crops, channels, one-bit images.
+#include <cstddef>
+
 #include "operations.h"
 
 namespace rnximg {
@@ -83,7 +85,7 @@ void crop(Image& image, Arguments& arguments) {
   const int x = arguments.integer("X", 0, size.width - 1), y = arguments.integer("Y", 0, size.height - 1);
   const RnxiSize roi = {arguments.integer("WIDTH", 1, size.width - x), arguments.integer("HEIGHT", 1, size.height - y)};
   Image result(roi, image.channels());
-  const Rnx8u* first = image.data() + static_cast<ptrdiff_t>(y) * image.step() + x * image.channels();
+  const Rnx8u* first = image.data() + static_cast<std::ptrdiff_t>(y) * image.step() + x * image.channels();
   check(byChannels(image, rnxiCopy_8u_C1R, rnxiCopy_8u_C3R, rnxiCopy_8u_C4R)(first, image.step(), result.data(),
                                                                              result.step(), roi));
   image = std::move(result);
