@@ -146,25 +146,32 @@ void transposeBlock(const Image& image, s64 x0, s64 x1, s64 y0, s64 y1, s64 widt
   }
 }
 
-// Pixels on the side of a block, a multiple of every tile's.
+// A block is as wide as the pixels that fill whole cache lines. Blocks follow each other down the source, which is
+// along the rows of the destination.
 template <int P>
-constexpr s64 kBlock = P == 1   ? 64
-                       : P <= 4 ? 32
-                                : 16;
+constexpr s64 kBlockColumns = (P % 3 == 0 ? 192 : 64) / P;
+constexpr s64 kBlockRows = 64;
 
 template <int P, bool Keeps>
 void transpose(const TransposeCall& call) {
   const Image image = {call.src, call.srcStep, call.dst, call.dstStep};
   if (call.inOrder) return pixelByPixel<P, Keeps>(image, 0, call.width, 0, call.height);
   // A rest shorter than a block joins the last one.
-  constexpr s64 kSize = kBlock<P>;
-  const auto end = [](s64 start, s64 n) { return n - start < 2 * kSize ? n : start + kSize; };
-  for (s64 y = 0; y < call.height; y = end(y, call.height)) {
-    for (s64 x = 0; x < call.width; x = end(x, call.width)) {
-      transposeBlock<P, Keeps>(image, x, end(x, call.width), y, end(y, call.height), call.width);
+  const auto end = [](s64 start, s64 n, s64 size) { return n - start < 2 * size ? n : start + size; };
+  for (s64 x = 0, nextX = 0; x < call.width; x = nextX) {
+    nextX = end(x, call.width, kBlockColumns<P>);
+    for (s64 y = 0, nextY = 0; y < call.height; y = nextY) {
+      nextY = end(y, call.height, kBlockRows);
+      transposeBlock<P, Keeps>(image, x, nextX, y, nextY, call.width);
     }
   }
 }
+
+// Pixels on the side of a square in place.
+template <int P>
+constexpr s64 kSquare = P == 1   ? 64
+                        : P <= 4 ? 32
+                                 : 16;
 
 // Blocks mirrored at the diagonal change places, one of them by way of a buffer.
 template <int P>
@@ -177,7 +184,7 @@ void inPlace(u8* image, s64 step, s64 size, bool inOrder) {
     }
     return;
   }
-  constexpr s64 kSize = kBlock<P>;
+  constexpr s64 kSize = kSquare<P>;
   u8 buffer[kSize * kSize * P];
   for (s64 y = 0; y < size; y += kSize) {
     const s64 rows = std::min(kSize, size - y);
