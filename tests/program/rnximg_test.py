@@ -211,6 +211,65 @@ class Operations(ProgramTest):
         self.assertEqual(self.read("out.png"), convert(ramp(1), lambda p: (abs(p[0] - 9),)))
 
 
+def transposed(rows):
+    return [list(column) for column in zip(*rows)]
+
+
+def bordered(rows, width, position):
+    """position(p, n): the row or column that comes to p, from -width on."""
+    places = lambda n: [position(p, n) for p in range(-width, n + width)]
+    return [[rows[y][x] for x in places(len(rows[0]))] for y in places(len(rows))]
+
+
+class Geometry(ProgramTest):
+    def test_every_operation(self):
+        for channels in (1, 3, 4):
+            rows = ramp(channels, 9, 7)
+            self.write("in.png", rows)
+            for words, expected in {
+                "flip horizontal": rows[::-1],
+                "flip vertical": [row[::-1] for row in rows],
+                "flip both": [row[::-1] for row in rows[::-1]],
+                "flip main": transposed(rows),
+                "flip second": transposed([row[::-1] for row in rows[::-1]]),
+                "transpose": transposed(rows),
+                "rotate 90": transposed(rows[::-1]),
+                "rotate 180": [row[::-1] for row in rows[::-1]],
+                "rotate 270": transposed(rows)[::-1],
+                "crop 2 1 5 4": [row[2:7] for row in rows[1:5]],
+                "border replicate 3": bordered(rows, 3, lambda p, n: min(max(p, 0), n - 1)),
+                "border mirror 3": bordered(rows, 3, lambda p, n: min(abs(p), 2 * n - 2 - abs(p))),
+            }.items():
+                with self.subTest(words, channels=channels):
+                    self.process("in.png", "-o", "out.png", *words.split())
+                    self.assertEqual(self.read("out.png"), expected)
+
+    def test_constant_border_is_opaque(self):
+        self.write("in.png", [[(1, 2, 3, 4)]])
+        self.process("in.png", "-o", "out.png", "border", "constant", "1", "9", "8", "7")
+        edge = (9, 8, 7, 255)
+        self.assertEqual(self.read("out.png"), [[edge] * 3, [edge, (1, 2, 3, 4), edge], [edge] * 3])
+
+    def test_channels(self):
+        for channels in (3, 4):
+            rows = ramp(channels)
+            self.write("in.png", rows)
+            self.process("in.png", "-o", "out.png", "swap", "b", "r", "g")
+            self.assertEqual(self.read("out.png"), convert(rows, lambda p: (p[2], p[0], p[1], *p[3:])))
+            self.process("in.png", "-o", "out.png", "extract", "b")
+            self.assertEqual(self.read("out.png"), convert(rows, lambda p: (p[2],)))
+            self.process("in.png", "-o", "out.png", "dropalpha")
+            self.assertEqual(self.read("out.png"), convert(rows, lambda p: p[:3]))
+            self.process("in.png", "-o", "out.png", "extract", "g", "--", "color")
+            self.assertEqual(self.read("out.png"), convert(rows, lambda p: (p[1],) * 3))
+
+    def test_bilevel(self):
+        rows = ramp(1, 19, 5)
+        self.write("in.png", rows)
+        self.process("in.png", "-o", "out.png", "bilevel", "99", "3", "200")
+        self.assertEqual(self.read("out.png"), convert(rows, lambda p: (200 if p[0] > 99 else 3,)))
+
+
 class Failures(ProgramTest):
     def setUp(self):
         super().setUp()
@@ -233,6 +292,10 @@ class Failures(ProgramTest):
         for words, part in [
             ("", "INPUT"),
             ("in.png", "-o OUTPUT"),
+            ("in.png -o out.png crop 0 0 99 1", "WIDTH"),
+            ("in.png -o out.png extract a", "no alpha"),
+            ("gray.png -o out.png swap r g b", "gray"),
+            ("in.png -o out.png bilevel 9", "not gray"),
             ("-o out.png", "INPUT"),
             ("in.png -o", "-o"),
             ("in.png -o out.gif", "out.gif"),
