@@ -9,5 +9,6 @@
 #include "rnxip/arith.h"
 #include "rnxip/core.h"
 #include "rnxip/data.h"
+#include "rnxip/stats.h"
 
 #endif
