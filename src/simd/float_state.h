@@ -25,7 +25,8 @@ public:
   FloatState& operator=(const FloatState&) = delete;
 
   // f(values...) under this state. The compiler does not know that arithmetic depends on the state; operands and result
-  // that pass through here keep it from moving the arithmetic out. A kernel called through a pointer needs no such care.
+  // that pass through here keep it from moving the arithmetic out. A kernel called through a pointer needs no such
+  // care.
   template <class F, class... Values>
   f64 compute(F f, Values... values) const {
     (pin(values), ...);

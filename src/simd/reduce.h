@@ -114,8 +114,8 @@ RNX_INLINE void reduceRows(s64 width, s64 height, A& a, ReduceSource<T> first, S
 // ---- Exact sums of unsigned terms ----
 
 // Lanes of 16 (32) bits hold two terms of 8 (16). `whole` sums the lanes and `high` their upper terms, both modulo the
-// lane; the lower terms are what remains: whole - (high << bits). Right as long as neither sum of terms leaves the lane:
-// for 257 terms of 8 bits, 65537 of 16.
+// lane; the lower terms are what remains: whole - (high << bits). Right as long as neither sum of terms leaves the
+// lane: for 257 terms of 8 bits, 65537 of 16.
 template <class T>
 struct PairSum {
   using Lane = std::conditional_t<sizeof(T) == 1, u16, u32>;
@@ -136,7 +136,9 @@ struct PairSum {
 RNX_INLINE Vec<u64> sumOfBytes(Vec<u8> v) { return Vec<u64>::of(RNX_MM(sad_epu8)(v.bits(), Vec<u8>::zero().bits())); }
 // Of pairs of lanes below 2^15.
 RNX_INLINE Vec<u32> sumOfSquares(Vec<u16> v) { return Vec<u32>::of(RNX_MM(madd_epi16)(v.bits(), v.bits())); }
-RNX_INLINE Vec<u16> upperProduct(Vec<u16> a, Vec<u16> b) { return Vec<u16>::of(RNX_MM(mulhi_epu16)(a.bits(), b.bits())); }
+RNX_INLINE Vec<u16> upperProduct(Vec<u16> a, Vec<u16> b) {
+  return Vec<u16>::of(RNX_MM(mulhi_epu16)(a.bits(), b.bits()));
+}
 
 }  // namespace
 }  // namespace rnx::simd

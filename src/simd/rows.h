@@ -293,7 +293,8 @@ RNX_INLINE void longRows(const core::Rows& rows, T* dst, s64 dstStep, F& functor
   functor = f;
 }
 
-// The same for blocks. The functor may be long: it is part of the code once, the block at the end being the loop's first.
+// The same for blocks. The functor may be long: it is part of the code once, the block at the end being the loop's
+// first.
 template <class Channels, class T, class F, class... Sources>
 RNX_INLINE void longRowsOfBlocks(const core::Rows& rows, T* dst, s64 dstStep, F f, Sources... sources) {
   using V = ResultOf<F, Sources...>;

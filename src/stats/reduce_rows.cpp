@@ -365,7 +365,8 @@ struct Squares {
 };
 
 template <class T>
-using Magnitude = std::conditional_t<std::is_same_v<T, f32>, s32, std::make_unsigned_t<std::conditional_t<std::is_same_v<T, f32>, s32, T>>>;
+using Magnitude = std::conditional_t<std::is_same_v<T, f32>, s32,
+                                     std::make_unsigned_t<std::conditional_t<std::is_same_v<T, f32>, s32, T>>>;
 
 struct LargestOf {
   template <class T, int C>

@@ -36,9 +36,8 @@ protected:
 };
 
 TEST_P(Alpha, EqualsTheRule) {
-  driver.sizes([&](s64 w, s64 h) {
-    return signature.source() == Element::k8u ? checkOnce<u8>(w, h) : checkOnce<u16>(w, h);
-  });
+  driver.sizes(
+      [&](s64 w, s64 h) { return signature.source() == Element::k8u ? checkOnce<u8>(w, h) : checkOnce<u16>(w, h); });
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, Alpha,

@@ -43,7 +43,8 @@ protected:
   bool check(s64 width, s64 height, Data data, s64 pad) {
     const s64 rowBytes = width * signature.channels() * s64{sizeof(T)};
     for (Image* image : {&first, &second}) {
-      image->place({rowBytes, height, rowBytes + pad}, random.oneIn(2) ? Placement::kFlushEnd : Placement::kFlushStart, random);
+      image->place({rowBytes, height, rowBytes + pad}, random.oneIn(2) ? Placement::kFlushEnd : Placement::kFlushStart,
+                   random);
       image->fillRows(random, data, signature.source());
     }
     const int hint = static_cast<int>(random.between(0, 3));
@@ -83,13 +84,15 @@ protected:
         } else {
           magnitude = fabsl(want);
         }
-        const long double allowed = magnitude * (isFloat ? (hint == 2 ? 1e-13L : 1e-6L) * (relative ? 3 : 1) : relative || is("L2") || is("Mean") ? 4e-16L : 0);
+        const long double allowed = magnitude * (isFloat ? (hint == 2 ? 1e-13L : 1e-6L) * (relative ? 3 : 1)
+                                                 : relative || is("L2") || is("Mean") ? 4e-16L
+                                                                                      : 0);
         const bool bothNaN = std::isnan(want) && std::isnan(result[c]);
         const bool same = static_cast<long double>(result[c]) == want || static_cast<f64>(want) == result[c];
         const bool looseInf = isFloat && is("Inf") && two && fabsl(result[c] - want) <= magnitude * 1e-6L;
         if (!bothNaN && !same && !looseInf && !(fabsl(result[c] - want) <= allowed)) {
-          ADD_FAILURE() << width << " x " << height << " channel " << c << ": " << result[c] << ", not " << static_cast<f64>(want)
-                        << ", hint " << hint << ", " << vectorBytes << " bytes";
+          ADD_FAILURE() << width << " x " << height << " channel " << c << ": " << result[c] << ", not "
+                        << static_cast<f64>(want) << ", hint " << hint << ", " << vectorBytes << " bytes";
           return false;
         }
         if (vectorBytes == 16) previous[c] = result[c];
@@ -134,7 +137,8 @@ TEST_P(Stats, NothingOverflows) {
         const ScopedWidth scope(vectorBytes);
         f64 result[4];
         Call call(signature);
-        const long double most = std::numeric_limits<T>::max(), span = two ? most - std::numeric_limits<T>::min() : most;
+        const long double most = std::numeric_limits<T>::max(),
+                          span = two ? most - std::numeric_limits<T>::min() : most;
         if (two) {
           call.image("src1", high.data(), INT32_MAX).image("src2", low.data(), INT32_MAX);
         } else {

@@ -48,7 +48,8 @@ protected:
         driver.call.set("cmpOp", below ? 0 : 4);
       }
     }
-    return driver.check(byElement<T, T>(signature, [=, this](int c, T s) {
+    return driver.check(byElement(signature, [=, this](int c, long double element) -> long double {
+      const T s = static_cast<T>(element);
       if (both) return s < low[c] ? lowValue[c] : s > high[c] ? highValue[c] : s;
       const T replacement = has("Val") ? lowValue[c] : low[c];
       return (below ? s < low[c] : s > low[c]) ? replacement : s;

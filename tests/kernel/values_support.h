@@ -15,7 +15,7 @@ public:
   const Signature& signature;
   const bool inPlace;
   Random random;
-  Call call;                              // with the parameters that are not images
+  Call call;                             // with the parameters that are not images
   unsigned controlState = _mm_getcsr();  // of floating point, during calls
 
   // Images of these sizes, any step and place; source values by `data`.
@@ -89,14 +89,30 @@ private:
   s64 width_ = 0, height_ = 0;
 };
 
-// A model of one row from a function of one element: f(channel, S) -> D. Alpha of AC4 stays.
-template <class S, class D, class F>
+// Elements as extended precision, which holds every value of every type.
+inline long double getAny(Element element, const void* p, s64 i) {
+  return withType(element, [&](auto zero) -> long double {
+    using T = decltype(zero);
+    if constexpr (std::is_arithmetic_v<T>) return static_cast<long double>(get<T>(p, i));
+    return 0;
+  });
+}
+inline void putAny(Element element, void* p, s64 i, long double v) {
+  withType(element, [&](auto zero) {
+    using T = decltype(zero);
+    if constexpr (std::is_arithmetic_v<T>) put<T>(p, i, static_cast<T>(v));
+  });
+}
+
+// A model of one row from a function of one element: f(channel, value) -> value. Alpha of AC4 stays.
+template <class F>
 auto byElement(const Signature& s, F f) {
   return [&s, f](const u8* from, u8* to, s64 pixels) {
+    const Element source = s.source(), destination = s.destination();
     const int channels = s.channels(), used = s.hasAlpha() ? 3 : channels;
     for (s64 i = 0; i < pixels * channels; ++i) {
       const int c = static_cast<int>(i % channels);
-      if (c < used) put<D>(to, i, f(c, get<S>(from, i)));
+      if (c < used) putAny(destination, to, i, f(c, getAny(source, from, i)));
     }
   };
 }

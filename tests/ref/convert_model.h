@@ -8,47 +8,41 @@
 
 namespace rnx::test::ref {
 
-template <class D>
-D saturate(long double v) {
-  using Limits = std::numeric_limits<D>;
-  if (v <= static_cast<long double>(Limits::min())) return Limits::min();
-  if (v >= static_cast<long double>(Limits::max())) return Limits::max();
-  return static_cast<D>(v);
+struct Range {
+  long double low, high;
+};
+
+inline Range rangeOf(Element element) {
+  return withType(element, [](auto zero) -> Range {
+    using T = decltype(zero);
+    using Limits = std::numeric_limits<T>;
+    if constexpr (std::is_arithmetic_v<T>) {
+      return {static_cast<long double>(Limits::lowest()), static_cast<long double>(Limits::max())};
+    }
+    return {};
+  });
 }
 
-inline long double rounded(long double v, int roundMode) {
-  return roundMode == 0 ? truncl(v) : roundMode == 1 ? rintl(v) : roundl(v);
-}
+inline bool isFloat(Element e) { return e == Element::k32f || e == Element::k64f; }
 
 // To an integer; what is not a number goes down with the first two modes and up with the others.
-template <class D, class S>
-D toInteger(S v, int roundMode) {
-  if (std::isnan(static_cast<f64>(v))) {
-    return roundMode == 0 || roundMode == 1 ? std::numeric_limits<D>::min() : std::numeric_limits<D>::max();
-  }
-  return saturate<D>(rounded(static_cast<long double>(v), roundMode));
+inline long double toInteger(long double v, Element to, int roundMode) {
+  const Range range = rangeOf(to);
+  const bool firstModes = roundMode == 0 || roundMode == 1;
+  if (std::isnan(v)) return firstModes ? range.low : range.high;
+  const long double r = roundMode == 0 ? truncl(v) : roundMode == 1 ? rintl(v) : roundl(v);
+  return r < range.low ? range.low : r > range.high ? range.high : r;
 }
 
-template <class D, class S>
-D scaled(S v, int roundMode, int scaleFactor) {
-  if constexpr (std::is_floating_point_v<S>) {
-    const S factor = scaleFactor >= 127    ? S(0)
-                     : scaleFactor <= -128 ? std::numeric_limits<S>::infinity()
-                                           : static_cast<S>(std::ldexp(1.0f, -scaleFactor));
-    return toInteger<D>(static_cast<S>(v * factor), roundMode);
-  } else {
-    const int n = std::max(-5000, std::min(5000, scaleFactor));
-    return saturate<D>(rounded(ldexpl(static_cast<long double>(v), -n), roundMode));
+inline long double scaled(long double v, Element from, Element to, int roundMode, int scaleFactor) {
+  if (!isFloat(from)) {
+    const int n = scaleFactor < -5000 ? -5000 : scaleFactor > 5000 ? 5000 : scaleFactor;
+    return toInteger(ldexpl(v, -n), to, roundMode);
   }
-}
-
-template <class D, class S>
-D converted(S v) {
-  if constexpr (std::is_floating_point_v<D>) {
-    return static_cast<D>(v);
-  } else {
-    return saturate<D>(static_cast<long double>(v));
-  }
+  const long double factor = scaleFactor >= 127    ? 0
+                             : scaleFactor <= -128 ? std::numeric_limits<long double>::infinity()
+                                                   : ldexpl(1, -scaleFactor);
+  return toInteger(v * factor, to, roundMode);
 }
 
 }  // namespace rnx::test::ref
