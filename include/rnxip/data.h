@@ -1,4 +1,4 @@
-/* Border extension; Type conversion; Copies; Mirror and transpose; Scaling; Filling with a constant; Reordering channels.
+/* Gray and one-bit images; Border extension; Type conversion; Copies; Mirror and transpose; Scaling; Filling with a constant; Reordering channels.
    Written by tools/apigen.py from the table of exports in api/: change it there. */
 #ifndef RNXIP_DATA_H
 #define RNXIP_DATA_H
@@ -8,6 +8,74 @@
 #ifdef __cplusplus
 extern "C" {
 #endif
+
+/* Gray and one-bit images
+   =======================
+
+   A one-bit image is rows of packed bits, filled from the least significant bit of a byte upward. A row may start in the
+   middle of a byte: with b the bit offset modulo 8, pixel x is bit (b + x) mod 8 of byte (b + x) div 8 of the row. Only
+   the offset modulo 8 counts; for a larger one move the pointer.
+
+   Source and destination may not overlap. */
+
+/* rnxiGrayToBin: Turns a gray image into a one-bit image by a threshold.
+
+       bit = src > threshold
+
+   A source that is not a number gives 0. Bits of the destination outside the ROI keep their values.
+
+   Arguments
+     pSrc, srcStep: source image: first pixel of the ROI and step in bytes
+     pDst, dstStep, dstBitOffset: one-bit destination image, its step in bytes, and the bit at which the rows start
+     roiSize: size of the region of interest in pixels
+     threshold: values above it give 1
+
+   Checks, in this order
+     rnxStatusNullPointer: a pointer is null (images and constant arrays are tested together)
+     rnxStatusBadSize: ROI width or height below 1
+     rnxStatusBadStep: a step below 1
+     rnxStatusBadSize: bit offset below 0
+
+   Example
+       RnxStatus status = rnxiGrayToBin_8u1u_C1R(gray, grayStep, bits, bitsStep, 0, roi, 127); */
+
+RnxStatus rnxiGrayToBin_8u1u_C1R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, int dstBitOffset,
+    RnxiSize roiSize, Rnx8u threshold);
+RnxStatus rnxiGrayToBin_16u1u_C1R(const Rnx16u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, int dstBitOffset,
+    RnxiSize roiSize, Rnx16u threshold);
+RnxStatus rnxiGrayToBin_16s1u_C1R(const Rnx16s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, int dstBitOffset,
+    RnxiSize roiSize, Rnx16s threshold);
+RnxStatus rnxiGrayToBin_32f1u_C1R(const Rnx32f* pSrc, int srcStep, Rnx8u* pDst, int dstStep, int dstBitOffset,
+    RnxiSize roiSize, Rnx32f threshold);
+
+/* rnxiBinToGray: Turns a one-bit image into a gray image of two levels.
+
+       dst = bit ? hiVal : loVal
+
+   Arguments
+     pSrc, srcStep, srcBitOffset: one-bit source image, its step in bytes, and the bit at which the rows start
+     pDst, dstStep: destination image and its step
+     roiSize: size of the region of interest in pixels
+     loVal, hiVal: the values for bits 0 and 1
+
+   Checks, in this order
+     rnxStatusNullPointer: a pointer is null (images and constant arrays are tested together)
+     rnxStatusBadSize: ROI width or height below 1
+     rnxStatusBadStep: a step below 1
+     rnxStatusBadSize: bit offset below 0
+
+   Example
+       RnxStatus status = rnxiBinToGray_1u8u_C1R(bits, bitsStep, 0, gray, grayStep, roi, 0, 255); */
+
+RnxStatus rnxiBinToGray_1u8u_C1R(const Rnx8u* pSrc, int srcStep, int srcBitOffset, Rnx8u* pDst, int dstStep,
+    RnxiSize roiSize, Rnx8u loVal, Rnx8u hiVal);
+RnxStatus rnxiBinToGray_1u16u_C1R(const Rnx8u* pSrc, int srcStep, int srcBitOffset, Rnx16u* pDst, int dstStep,
+    RnxiSize roiSize, Rnx16u loVal, Rnx16u hiVal);
+RnxStatus rnxiBinToGray_1u16s_C1R(const Rnx8u* pSrc, int srcStep, int srcBitOffset, Rnx16s* pDst, int dstStep,
+    RnxiSize roiSize, Rnx16s loVal, Rnx16s hiVal);
+RnxStatus rnxiBinToGray_1u32f_C1R(const Rnx8u* pSrc, int srcStep, int srcBitOffset, Rnx32f* pDst, int dstStep,
+    RnxiSize roiSize, Rnx32f loVal, Rnx32f hiVal);
+
 
 /* Border extension
    ================
@@ -781,8 +849,8 @@ RnxStatus rnxiConvert_32f32u_C1IRSfs(Rnx32u* pSrcDst, int srcDstStep, RnxiSize r
 
    Steps may have any value; a step of 0 reads or writes the same row again. Values are copied bit by bit.
 
-   Images may overlap. The result is then that of a loop over the rows from the top and over the pixels of a row from the
-   left, where a pixel is read before it is written (a form that leaves out channels: the channels that it moves). So one
+   Images may overlap. The result is then that of a loop over the rows from the top and over a row from the left: over its
+   elements in C1R, C3R, C4R and AC4R, over its pixels in the other forms, which read a pixel before they write it. So one
    image may be moved up or to the left inside another by a plain copy, but not down or to the right.
 
    Forms that leave elements of the destination as they are may rewrite them with their own value: two threads may not
@@ -1054,7 +1122,7 @@ RnxStatus rnxiDup_8u_C1C4R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstS
    With flip 3 and 4 a step below 1 gives rnxStatusBadStep, before the size, and images that have a byte in common give
    rnxStatusUnsupportedMode, last; so does the in-place form. The other axes check no step: one pointer and one step for
    source and destination mean in place, otherwise overlapping images give the result of a loop over the source's rows
-   from the top and over the pixels of a row from the left.
+   from the top and over a row from the left: over its elements with flip 0, over its pixels with flip 1 and 2.
 
    Upside down, an image of 2097153 bytes or more is written around the caches where it does not fit them.
 
