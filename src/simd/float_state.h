@@ -3,6 +3,8 @@
 // caller's state, flags included, is what it was when the call returns.
 #pragma once
 
+#include <emmintrin.h>
+
 #include <type_traits>
 
 #include "core/types.h"
@@ -38,6 +40,9 @@ private:
 
   u32 callers_;
 };
+
+// Without the library call for negative numbers.
+inline f64 squareRoot(f64 v) { return _mm_cvtsd_f64(_mm_sqrt_sd(_mm_setzero_pd(), _mm_set_sd(v))); }
 
 // What a call on elements of these types needs.
 struct NoFloatState {};

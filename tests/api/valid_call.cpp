@@ -30,6 +30,10 @@ void channelOrder(ValidCall& valid, size_t index) {
   valid.call().setAt(index, order);
 }
 
+void valueRange(ValidCall& valid, size_t index) {  // vMin, vMax
+  valid.call().setAt(index, valid.call().signature().parameters()[index].name == "vMax" ? 1 : 0);
+}
+
 struct RoleValue {
   std::string_view role;
   SetRole set;
@@ -43,6 +47,16 @@ constexpr RoleValue kRoles[] = {
     {"flip", number<0>},
     {"cacheflags", number<0>},
     {"order", channelOrder},
+    {"threshold", number<1>},
+    {"outside", number<1>},
+    {"cmpop", number<0>},
+    {"relation", number<0>},
+    {"anyround", number<1>},
+    {"power", number<0>},
+    {"hint", number<0>},
+    {"muladd", number<2>},
+    {"range", valueRange},
+    {"alpha", number<1>},
     {"pixelwidth", number<5>},
     {"pixelheight", number<5>},
     {"srcroi", size<ValidCall::kSize>},

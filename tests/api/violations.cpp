@@ -184,6 +184,37 @@ Violations channelOrders(const Signature& s) {
   return list;
 }
 
+Violations thresholdSelectors(const Signature& s) { return numbersOf(s, "cmpop", {-1, 1, 2, 3, 5, INT_MIN, INT_MAX}); }
+
+// An upper level of 0 in one channel; the valid ones are above.
+Violations crossedThresholds(const Signature& s) {
+  Violations list;
+  if (s.layout == "C1") {
+    appendNumbers(list, s.parameters()[s.parameters().size() - 2], {0});
+    return list;
+  }
+  for (size_t channel = 0; channel < 3; ++channel) {
+    withType(s.source(), [&](auto zero) {
+      using T = decltype(zero);
+      if constexpr (std::is_arithmetic_v<T>) {
+        auto values = std::make_shared<std::array<T, 4>>(std::array<T, 4>{T(9999), T(9999), T(9999), T(9999)});
+        (*values)[channel] = 0;
+        list.push_back({"thresholdGT[" + std::to_string(channel) + "] = 0",
+                        [values](Call& call) { call.set("thresholdGT", values->data()); }});
+      }
+    });
+  }
+  return list;
+}
+
+Violations valueRanges(const Signature& s) {
+  Violations list;
+  for (const Parameter& p : s.parameters()) {
+    if (p.name == "vMax") appendNumbers(list, p, {0, -1});
+  }
+  return list;
+}
+
 constexpr CheckRule kRules[] = {
     {"null", -8, nulls},
     {"size", -6, sizes},
@@ -198,6 +229,10 @@ constexpr CheckRule kRules[] = {
     {"order_null", -8, nullOfClaim<kClaims[1]>},
     {"step_zero", -16, zeroSteps},
     {"order", -60, channelOrders},
+    {"cmpop", -14, thresholdSelectors},
+    {"thresholds", -19, crossedThresholds},
+    {"planes", -8, nulls},
+    {"range", -12, valueRanges},
 };
 
 }  // namespace
