@@ -9,6 +9,8 @@
 #include "rnxip/arith.h"
 #include "rnxip/core.h"
 #include "rnxip/data.h"
+#include "rnxip/fft.h"
 #include "rnxip/filter.h"
+#include "rnxip/geom.h"
 
 #endif

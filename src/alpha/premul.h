@@ -2,10 +2,10 @@
 #pragma once
 
 #include <algorithm>
-#include <cstring>
 
 #include "alpha/premul_kernels.h"
 #include "core/checks.h"
+#include "data/copy.h"
 
 namespace rnx::alpha {
 
@@ -85,14 +85,6 @@ bool anyPlaneNull(const T* const planes[4]) {
 }
 
 template <class T>
-void copyPlane(const T* src, int srcStep, T* dst, int dstStep, RnxiSize roi) {
-  for (int y = 0; y < roi.height; ++y) {
-    std::memmove(core::at(dst, s64{y} * dstStep), core::at(src, s64{y} * srcStep),
-                 static_cast<size_t>(roi.width) * sizeof(T));
-  }
-}
-
-template <class T>
 RnxStatus premulPlanes(const T* const src[4], int srcStep, T* const dst[4], int dstStep, RnxiSize roi) {
   if (anyPlaneNull<T>(src) || anyPlaneNull<T>(dst)) return rnxStatusNullPointer;
   if (core::empty(roi)) return rnxStatusBadSize;
@@ -109,8 +101,7 @@ RnxStatus premulPlanes(const T* const src[4], int srcStep, T* const dst[4], int 
                                 .dstStep = dstStep};
     kernels<T>(call.rows).byPlane(call);
   }
-  if (dst[3] != src[3] || dstStep != srcStep) copyPlane<T>(src[3], srcStep, dst[3], dstStep, roi);
-  return rnxStatusNoError;
+  return data::copy<T, core::C1>(src[3], srcStep, dst[3], dstStep, roi);
 }
 
 template <class T>

@@ -102,11 +102,11 @@ RNX_INLINE V loadPartOf(const T* p, int n) {
   } else {
     V block;
     const int half = halfOf(n);
-    const T* last = p + (n - half);
-    if (half < Vec<T>::kLanes) {
+    if (V::kVectors == 1 || half < Vec<T>::kLanes) {
       const Vec<T> both = loadPart(p, n);
       for (Vec<T>& v : block.v) v = both;
     } else {
+      const T* last = p + (n - half);
       const int vectors = half / Vec<T>::kLanes;
       for (int k = 0; k < V::kVectors; ++k) {
         block.v[k] = Vec<T>::load((k / vectors % 2 ? last : p) + k % vectors * Vec<T>::kLanes);
@@ -118,13 +118,16 @@ RNX_INLINE V loadPartOf(const T* p, int n) {
 
 template <class T, int N>
 RNX_INLINE void storePart(T* p, int n, const Block<T, N>& block) {
+  constexpr int kVectors = Block<T, N>::kVectors;
   const int half = halfOf(n);
-  if (half < Vec<T>::kLanes) return storePart(p, n, block.v[0]);
-  T* last = p + (n - half);
-  const int vectors = half / Vec<T>::kLanes;
-  for (int k = 0; k < vectors; ++k) {
-    block.v[k].store(p + k * Vec<T>::kLanes);
-    block.v[vectors + k].store(last + k * Vec<T>::kLanes);
+  if (kVectors == 1 || half < Vec<T>::kLanes) return storePart(p, n, block.v[0]);
+  if constexpr (kVectors > 1) {
+    T* last = p + (n - half);
+    const int vectors = half / Vec<T>::kLanes;
+    for (int k = 0; k < vectors && vectors + k < kVectors; ++k) {
+      block.v[k].store(p + k * Vec<T>::kLanes);
+      block.v[vectors + k].store(last + k * Vec<T>::kLanes);
+    }
   }
 }
 
@@ -269,28 +272,19 @@ RNX_INLINE void longRows(const core::Rows& rows, T* dst, s64 dstStep, F& functor
       f(sources.at(0)...).store(dst);
       i = elementsToAlignment(dst);
     }
-    if constexpr (kOneVector<F, Sources...>) {
-      (sources.beginBody(i), ...);
-      for (; i + 3 * L <= n; i += 3 * L) {
-        T* d = dst + i;
-        const V v0 = Channels::merge(f(sources.template body<0>(i)...), oldVector<Channels, V>(d));
-        const V v1 = Channels::merge(f(sources.template body<1>(i + L)...), oldVector<Channels, V>(d + L));
-        const V v2 = Channels::merge(f(sources.template body<2>(i + 2 * L)...), oldVector<Channels, V>(d + 2 * L));
-        if (stream) {
-          v0.stream(d), v1.stream(d + L), v2.stream(d + 2 * L);
-        } else {
-          v0.store(d), v1.store(d + L), v2.store(d + 2 * L);
-        }
-      }
-    }
-    for (; i + L <= n; i += L) {
-      const V v = Channels::merge(f(sources.at(i)...), oldVector<Channels, V>(dst + i));
+    (sources.beginBody(i), ...);
+    for (; i + 3 * L <= n; i += 3 * L) {
+      T* d = dst + i;
+      const V v0 = Channels::merge(f(sources.template body<0>(i)...), oldVector<Channels, V>(d));
+      const V v1 = Channels::merge(f(sources.template body<1>(i + L)...), oldVector<Channels, V>(d + L));
+      const V v2 = Channels::merge(f(sources.template body<2>(i + 2 * L)...), oldVector<Channels, V>(d + 2 * L));
       if (stream) {
-        v.stream(dst + i);
+        v0.stream(d), v1.stream(d + L), v2.stream(d + 2 * L);
       } else {
-        v.store(dst + i);
+        v0.store(d), v1.store(d + L), v2.store(d + 2 * L);
       }
     }
+    for (; i + L <= n; i += L) Channels::merge(f(sources.at(i)...), oldVector<Channels, V>(dst + i)).store(dst + i);
     if (ragged) tail.store(dst + last);
     dst = core::at(dst, dstStep);
     (sources.nextRow(), ...);
@@ -299,21 +293,47 @@ RNX_INLINE void longRows(const core::Rows& rows, T* dst, s64 dstStep, F& functor
   functor = f;
 }
 
-// Rows of less than a vector.
+// The same for blocks. The functor may be long: it is part of the code once, the block at the end being the loop's first.
 template <class Channels, class T, class F, class... Sources>
-RNX_INLINE void shortRows(const core::Rows& rows, T* dst, s64 dstStep, F& f, Sources... sources) {
+RNX_INLINE void longRowsOfBlocks(const core::Rows& rows, T* dst, s64 dstStep, F f, Sources... sources) {
+  using V = ResultOf<F, Sources...>;
+  constexpr int L = V::kLanes;
+  const auto placement = reinterpret_cast<uintptr_t>(dst) | static_cast<uintptr_t>(dstStep);
+  const s64 n = rows.width, last = n - L;
+  const bool stream =
+      rows.walk == core::Walk::kStream && !Channels::kKeepsAlpha && placement % sizeof(T) == 0 && n >= 4 * L;
   for (s64 y = 0; y < rows.height; ++y) {
-    partOfRow<Channels>(dst, 0, static_cast<int>(rows.width), f, sources...);
+    const s64 head = stream ? elementsToAlignment(dst) : n;  // where stores around the caches begin
+    bool atEnd = n % L != 0 || stream;
+    const bool ragged = atEnd;
+    V tail = V::zero();
+    for (s64 i = 0; atEnd || i <= last;) {
+      const s64 at = atEnd ? last : i;
+      const V v = Channels::merge(f(sources.at(at)...), oldVector<Channels, V>(dst + at));
+      if (atEnd) {
+        tail = v;
+        atEnd = false;
+      } else if (i >= head) {
+        v.stream(dst + i);
+        i += L;
+      } else {
+        v.store(dst + i);
+        i = stream ? head : i + L;
+      }
+    }
+    if (ragged) tail.store(dst + last);
     dst = core::at(dst, dstStep);
     (sources.nextRow(), ...);
   }
+  if (stream) _mm_sfence();
 }
 
+// Rows of less than a vector, or rows in order: by parts of n elements.
 template <class Channels, class T, class F, class... Sources>
-RNX_INLINE void rowsInOrder(const core::Rows& rows, T* dst, s64 dstStep, F& f, Sources... sources) {
+RNX_INLINE void rowsByParts(const core::Rows& rows, int n, T* dst, s64 dstStep, F& f, Sources... sources) {
   for (s64 y = 0; y < rows.height; ++y) {
-    for (s64 i = 0; i < rows.width; ++i) {
-      if (!Channels::kKeepsAlpha || i % 4 != 3) partOfRow<Channels>(dst, i, 1, f, sources...);
+    for (s64 i = 0; i < rows.width; i += n) {
+      if (!Channels::kKeepsAlpha || n > 1 || i % 4 != 3) partOfRow<Channels>(dst, i, n, f, sources...);
     }
     dst = core::at(dst, dstStep);
     (sources.nextRow(), ...);
@@ -323,12 +343,13 @@ RNX_INLINE void rowsInOrder(const core::Rows& rows, T* dst, s64 dstStep, F& f, S
 // Calls f with one vector of each source and stores what it returns, over all rows.
 template <class Channels, class T, class F, class... Sources>
 RNX_INLINE void forEachElement(const core::Rows& rows, T* dst, s64 dstStep, F& f, const Sources&... sources) {
-  if (rows.walk == core::Walk::kInOrder) {
-    rowsInOrder<Channels>(rows, dst, dstStep, f, sources...);
-  } else if (rows.width < ResultOf<F, Sources...>::kLanes) {
-    shortRows<Channels>(rows, dst, dstStep, f, sources...);
-  } else {
+  const bool inOrder = rows.walk == core::Walk::kInOrder;
+  if (inOrder || rows.width < ResultOf<F, Sources...>::kLanes) {
+    rowsByParts<Channels>(rows, inOrder ? 1 : static_cast<int>(rows.width), dst, dstStep, f, sources...);
+  } else if constexpr (kOneVector<F, Sources...>) {
     longRows<Channels>(rows, dst, dstStep, f, sources...);
+  } else {
+    longRowsOfBlocks<Channels>(rows, dst, dstStep, f, sources...);
   }
 }
 
