@@ -27,7 +27,6 @@ public:
   explicit Arguments(std::vector<std::string> words) : words_(std::move(words)) {}
 
   bool more() const { return next_ < words_.size(); }
-  const std::string& text(const char* what) { return word(what); }
   int integer(const char* what, int low, int high);
   double number(const char* what, double low, double high);
   // Any word.

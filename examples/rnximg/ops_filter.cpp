@@ -48,7 +48,7 @@ Kernel readKernel(std::istream& rows, char separator, const std::string& name) {
 }
 
 Kernel takeKernel(Arguments& arguments) {
-  const std::string& word = arguments.text("KERNEL");
+  const std::string word = arguments.text("KERNEL");
   const bool isInline = word.find_first_not_of("0123456789.,/+-eE ") == std::string::npos;
   if (isInline) {
     std::istringstream rows(word);
