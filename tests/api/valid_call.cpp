@@ -34,6 +34,25 @@ void valueRange(ValidCall& valid, size_t index) {  // vMin, vMax
   valid.call().setAt(index, valid.call().signature().parameters()[index].name == "vMax" ? 1 : 0);
 }
 
+void filterDataType(ValidCall& valid, size_t index) {
+  valid.call().setAt(index, valid.call().signature().types == "64f" ? rnx64f : rnx8u);
+}
+
+// The spec of a 3 x 3 kernel for the function's own images.
+void filterSpec(ValidCall& valid, size_t index) {
+  auto* spec = reinterpret_cast<RnxiFilterBorderSpec*>(valid.memory());
+  const Element e = valid.call().signature().source();
+  constexpr RnxiSize kKernel = {3, 3};
+  if (e == Element::k64f) {
+    constexpr f64 kOnes[9] = {1, 1, 1, 1, 1, 1, 1, 1, 1};
+    rnxiFilterBorderInit_64f(kOnes, kKernel, rnx64f, 1, rnxRoundNearestEven, spec);
+  } else {
+    constexpr f32 kOnes[9] = {1, 1, 1, 1, 1, 1, 1, 1, 1};
+    rnxiFilterBorderInit_32f(kOnes, kKernel, e == Element::k32f ? rnx32f : rnx8u, 1, rnxRoundNearestEven, spec);
+  }
+  valid.call().setAt(index, spec);
+}
+
 struct RoleValue {
   std::string_view role;
   SetRole set;
@@ -63,6 +82,15 @@ constexpr RoleValue kRoles[] = {
     {"dstroi", size<ValidCall::kLarge>},
     {"top", number<2>},
     {"left", number<2>},
+    {"filterdatatype", filterDataType},
+    {"filterkerneltype", number<rnx16s>},
+    {"filterchannels", number<1>},
+    {"filterround", number<rnxRoundNearestEven>},
+    {"filterdivisor", number<2>},
+    {"filterhint", number<0>},
+    {"filteroffset", number<0>},
+    {"filterspec", filterSpec},
+    {"bordertype", number<rnxBorderConst>},
 };
 
 const RoleValue* find(std::string_view role) {

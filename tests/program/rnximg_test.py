@@ -210,6 +210,46 @@ class Operations(ProgramTest):
         self.process("in.png", "-o", "out.png", "difference", "other.png")
         self.assertEqual(self.read("out.png"), convert(ramp(1), lambda p: (abs(p[0] - 9),)))
 
+    def test_filters(self):
+        binomial = [[1, 2, 1], [2, 4, 2], [1, 2, 1]]
+        skew = [[0, 1, 2, 3], [5, -1, 0, 2]]
+        (self.folder / "kernel.txt").write_text("0 1 2 3\n5, -1 0 2\n\n")
+        cases = [
+            ("filter 1,2,1/2,4,2/1,2,1", binomial, 16, 0, round),
+            ("blur 1", binomial, 16, 0, round),
+            ("filter kernel.txt", skew, 12, 0, round),
+            ("filter kernel.txt divisor 8 round zero", skew, 8, 0, int),
+            ("filter 0.25,0.5,0.25", [[1, 2, 1]], 4, 0, round),
+            ("sharpen", [[0, -1, 0], [-1, 5, -1], [0, -1, 0]], 1, 0, round),
+            ("edges", [[-1, -1, -1], [-1, 8, -1], [-1, -1, -1]], 1, 0, round),
+            ("emboss", [[2, 1, 0], [1, 0, -1], [0, -1, -2]], 1, 128, round),
+        ]
+        for channels in (1, 3, 4):
+            image = ramp(channels, 20, 9)
+            self.write("in.png", image)
+            for words, kernel, divisor, offset, rounding in cases:
+                with self.subTest(words, channels=channels):
+                    self.process("in.png", "-o", "out.png", *words.split())
+                    self.assertEqual(self.read("out.png"), filtered(image, kernel, divisor, offset, rounding))
+
+
+def filtered(image, kernel, divisor, offset, rounding):
+    """Convolution with the edge pixels repeated; alpha stays."""
+    height, width, kh, kw = len(image), len(image[0]), len(kernel), len(kernel[0])
+
+    def level(x, y, c):
+        total = 0
+        for j in range(kh):
+            row = image[min(max(y - (kh - 1) // 2 + j, 0), height - 1)]
+            for i in range(kw):
+                total += kernel[kh - 1 - j][kw - 1 - i] * row[min(max(x - (kw - 1) // 2 + i, 0), width - 1)][c]
+        return min(max(rounding(Fraction(total, divisor) + offset), 0), 255)
+
+    return [
+        [(*(level(x, y, c) for c in range(min(len(p), 3))), *p[3:]) for x, p in enumerate(row)]
+        for y, row in enumerate(image)
+    ]
+
 
 def transposed(rows):
     return [list(column) for column in zip(*rows)]
@@ -320,6 +360,11 @@ class Failures(ProgramTest):
             ("in.png -o out.png contrast 2 brightness 3", "'brightness'"),
             ("in.png -o out.png divc 3 0 3", "DIVISOR must not be 0"),
             ("in.png -o out.png blend in.png 1.5", "WEIGHT"),
+            ("in.png -o out.png filter 1,2/3", "different lengths"),
+            ("in.png -o out.png filter /", "empty"),
+            ("in.png -o out.png filter 1 divisor 0", "DIVISOR must not be 0"),
+            ("in.png -o out.png filter 1 border wrap", "'wrap'"),
+            ("in.png -o out.png blur 5", "RADIUS"),
             ("gray.png -o out.png addc 1 2 3", "gray"),
             ("in.png -o out.png -- addc 1", "both sides"),
             ("in.png -o out.png addc 1 --", "both sides"),
