@@ -79,14 +79,14 @@ add_custom_target(no_weak_symbols DEPENDS ${GENERATED}/no_weak_symbols.stamp)
 # ---- rnxip ----
 
 add_library(rnxip SHARED
-  src/core/dispatch.cpp src/core/entries.S
+  src/core/dispatch.cpp src/core/entries.S src/fft/plan.cpp
   $<TARGET_OBJECTS:rnxip_rows128> $<TARGET_OBJECTS:rnxip_rows256>)
 add_library(rnxip::rnxip ALIAS rnxip)
 rnx_shared_object(rnxip)
 add_dependencies(rnxip apigen no_weak_symbols)
 set_source_files_properties(src/core/entries.S PROPERTIES OBJECT_DEPENDS ${GENERATED}/apigen.stamp)
 set_source_files_properties(src/core/dispatch.cpp PROPERTIES OBJECT_DEPENDS ${GENERATED}/apigen.stamp)
-target_link_libraries(rnxip PRIVATE rnx_library_flags rnxcore)
+target_link_libraries(rnxip PRIVATE rnx_library_flags rnxcore m)
 target_link_options(rnxip PRIVATE -Wl,--version-script=${GENERATED}/exports.map)
 set_target_properties(rnxip PROPERTIES LINK_DEPENDS ${GENERATED}/apigen.stamp)
 target_include_directories(rnxip INTERFACE

@@ -5,9 +5,12 @@
 
 #include "rnxip/types.h"
 
+#include "rnxip/alpha.h"
 #include "rnxip/arith.h"
 #include "rnxip/core.h"
 #include "rnxip/data.h"
+#include "rnxip/fft.h"
+#include "rnxip/filter.h"
 #include "rnxip/geom.h"
 
 #endif

@@ -1,4 +1,4 @@
-/* Binary arithmetic with scale factor.
+/* Binary arithmetic with scale factor; Image comparison; Thresholding.
    Written by tools/apigen.py from the table of exports in api/: change it there. */
 #ifndef RNXIP_ARITH_H
 #define RNXIP_ARITH_H
@@ -1238,6 +1238,580 @@ RnxStatus rnxiDivC_32f_AC4R_L(const Rnx32f* pSrc, Rnx64s srcStep, const Rnx32f v
     const RnxiSizeL* roiSize);
 RnxStatus rnxiDivC_32f_AC4IR(const Rnx32f value[3], Rnx32f* pSrcDst, int srcDstStep, RnxiSize roiSize);
 RnxStatus rnxiDivC_32f_AC4IR_L(const Rnx32f value[3], Rnx32f* pSrcDst, Rnx64s srcDstStep, const RnxiSizeL* roiSize);
+
+
+/* Image comparison
+   ================ */
+
+/* rnxiCompare: Compares two images and writes a mask: 255 where the relation holds, else 0.
+
+       dst = (src1 cmpOp src2 in every channel) ? 255 : 0
+
+   C3 and C4 compare three and four channels, AC4 the first three. A 32f element that is not a number makes every relation
+   false, rnxCmpEq too; zeros of either sign are equal.
+
+   The steps are tested before the size. With any other cmpOp the call returns 0 and leaves the destination as it is.
+   The destination may overlap the sources: the result is then that of a loop over the rows from the top and over the
+   pixels of a row from the left.
+
+   Arguments
+     pSrc1, src1Step: first source image and its step
+     pSrc2, src2Step: second source image and its step
+     pDst, dstStep: destination: an image of one byte per pixel, and its step
+     roiSize: size of the region of interest in pixels
+     cmpOp: 0 rnxCmpLess, 1 rnxCmpLessEq, 2 rnxCmpEq, 3 rnxCmpGreaterEq, 4 rnxCmpGreater: what the first image is
+         to the second
+
+   Checks, in this order
+     rnxStatusNullPointer: a pointer is null (images and constant arrays are tested together)
+     rnxStatusBadStep: a step below 1
+     rnxStatusBadSize: ROI width or height below 1
+
+   Example
+       // where has the picture become brighter?
+       RnxStatus status = rnxiCompare_8u_C1R(now, nowStep, before, beforeStep, mask, maskStep, roi, rnxCmpGreater); */
+
+RnxStatus rnxiCompare_8u_C1R(const Rnx8u* pSrc1, int src1Step, const Rnx8u* pSrc2, int src2Step, Rnx8u* pDst,
+    int dstStep, RnxiSize roiSize, int cmpOp);
+RnxStatus rnxiCompare_8u_C3R(const Rnx8u* pSrc1, int src1Step, const Rnx8u* pSrc2, int src2Step, Rnx8u* pDst,
+    int dstStep, RnxiSize roiSize, int cmpOp);
+RnxStatus rnxiCompare_8u_C4R(const Rnx8u* pSrc1, int src1Step, const Rnx8u* pSrc2, int src2Step, Rnx8u* pDst,
+    int dstStep, RnxiSize roiSize, int cmpOp);
+RnxStatus rnxiCompare_8u_AC4R(const Rnx8u* pSrc1, int src1Step, const Rnx8u* pSrc2, int src2Step, Rnx8u* pDst,
+    int dstStep, RnxiSize roiSize, int cmpOp);
+RnxStatus rnxiCompare_16u_C1R(const Rnx16u* pSrc1, int src1Step, const Rnx16u* pSrc2, int src2Step, Rnx8u* pDst,
+    int dstStep, RnxiSize roiSize, int cmpOp);
+RnxStatus rnxiCompare_16u_C3R(const Rnx16u* pSrc1, int src1Step, const Rnx16u* pSrc2, int src2Step, Rnx8u* pDst,
+    int dstStep, RnxiSize roiSize, int cmpOp);
+RnxStatus rnxiCompare_16u_C4R(const Rnx16u* pSrc1, int src1Step, const Rnx16u* pSrc2, int src2Step, Rnx8u* pDst,
+    int dstStep, RnxiSize roiSize, int cmpOp);
+RnxStatus rnxiCompare_16u_AC4R(const Rnx16u* pSrc1, int src1Step, const Rnx16u* pSrc2, int src2Step, Rnx8u* pDst,
+    int dstStep, RnxiSize roiSize, int cmpOp);
+RnxStatus rnxiCompare_16s_C1R(const Rnx16s* pSrc1, int src1Step, const Rnx16s* pSrc2, int src2Step, Rnx8u* pDst,
+    int dstStep, RnxiSize roiSize, int cmpOp);
+RnxStatus rnxiCompare_16s_C3R(const Rnx16s* pSrc1, int src1Step, const Rnx16s* pSrc2, int src2Step, Rnx8u* pDst,
+    int dstStep, RnxiSize roiSize, int cmpOp);
+RnxStatus rnxiCompare_16s_C4R(const Rnx16s* pSrc1, int src1Step, const Rnx16s* pSrc2, int src2Step, Rnx8u* pDst,
+    int dstStep, RnxiSize roiSize, int cmpOp);
+RnxStatus rnxiCompare_16s_AC4R(const Rnx16s* pSrc1, int src1Step, const Rnx16s* pSrc2, int src2Step, Rnx8u* pDst,
+    int dstStep, RnxiSize roiSize, int cmpOp);
+RnxStatus rnxiCompare_32f_C1R(const Rnx32f* pSrc1, int src1Step, const Rnx32f* pSrc2, int src2Step, Rnx8u* pDst,
+    int dstStep, RnxiSize roiSize, int cmpOp);
+RnxStatus rnxiCompare_32f_C3R(const Rnx32f* pSrc1, int src1Step, const Rnx32f* pSrc2, int src2Step, Rnx8u* pDst,
+    int dstStep, RnxiSize roiSize, int cmpOp);
+RnxStatus rnxiCompare_32f_C4R(const Rnx32f* pSrc1, int src1Step, const Rnx32f* pSrc2, int src2Step, Rnx8u* pDst,
+    int dstStep, RnxiSize roiSize, int cmpOp);
+RnxStatus rnxiCompare_32f_AC4R(const Rnx32f* pSrc1, int src1Step, const Rnx32f* pSrc2, int src2Step, Rnx8u* pDst,
+    int dstStep, RnxiSize roiSize, int cmpOp);
+
+
+/* Thresholding
+   ============
+
+   Every comparison is strict: an element equal to a threshold is kept, a zero of the other sign included. A 32f element
+   that is not a number satisfies no comparison and is kept; so is every element where the threshold is not a number.
+
+   C3, C4 and AC4 take arrays with a threshold (and a value) per channel. AC4 works on three channels and never changes
+   the destination's fourth element. Images may overlap in any way: the result is then that of a loop over the rows from
+   the top and over the elements of a row from the left. */
+
+/* rnxiThreshold: Clamps the elements on one side of a level to the level.
+
+       cmpOp 0:  dst = max(src, threshold)
+       cmpOp 4:  dst = min(src, threshold)
+
+   Arguments
+     pSrc, srcStep: source image: first pixel of the ROI and step in bytes
+     pDst, dstStep: destination image and its step
+     roiSize: size of the region of interest in pixels
+     threshold: the level: one (C1), or an array of one per channel (3 for C3 and AC4, 4 for C4)
+     cmpOp: 0 rnxCmpLess or 4 rnxCmpGreater: which elements are changed
+     pSrcDst, srcDstStep: image that is read and receives the result, and its step
+
+   Checks, in this order
+     rnxStatusNullPointer: a pointer is null (images and constant arrays are tested together)
+     rnxStatusBadSize: ROI width or height below 1
+     rnxStatusBadStep: a step below 1
+     rnxStatusUnsupportedMode: cmpOp neither 0 rnxCmpLess nor 4 rnxCmpGreater
+
+   Example
+       // nothing darker than 16
+       RnxStatus status = rnxiThreshold_8u_C1IR(image, step, roi, 16, rnxCmpLess); */
+
+RnxStatus rnxiThreshold_8u_C1R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    Rnx8u threshold, int cmpOp);
+RnxStatus rnxiThreshold_8u_C1IR(Rnx8u* pSrcDst, int srcDstStep, RnxiSize roiSize, Rnx8u threshold, int cmpOp);
+RnxStatus rnxiThreshold_8u_C3R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx8u threshold[3], int cmpOp);
+RnxStatus rnxiThreshold_8u_C3IR(Rnx8u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx8u threshold[3], int cmpOp);
+RnxStatus rnxiThreshold_8u_AC4R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx8u threshold[3], int cmpOp);
+RnxStatus rnxiThreshold_8u_AC4IR(Rnx8u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx8u threshold[3], int cmpOp);
+RnxStatus rnxiThreshold_16u_C1R(const Rnx16u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    Rnx16u threshold, int cmpOp);
+RnxStatus rnxiThreshold_16u_C1IR(Rnx16u* pSrcDst, int srcDstStep, RnxiSize roiSize, Rnx16u threshold, int cmpOp);
+RnxStatus rnxiThreshold_16u_C3R(const Rnx16u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16u threshold[3], int cmpOp);
+RnxStatus rnxiThreshold_16u_C3IR(Rnx16u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx16u threshold[3],
+    int cmpOp);
+RnxStatus rnxiThreshold_16u_AC4R(const Rnx16u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16u threshold[3], int cmpOp);
+RnxStatus rnxiThreshold_16u_AC4IR(Rnx16u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx16u threshold[3],
+    int cmpOp);
+RnxStatus rnxiThreshold_16s_C1R(const Rnx16s* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    Rnx16s threshold, int cmpOp);
+RnxStatus rnxiThreshold_16s_C1IR(Rnx16s* pSrcDst, int srcDstStep, RnxiSize roiSize, Rnx16s threshold, int cmpOp);
+RnxStatus rnxiThreshold_16s_C3R(const Rnx16s* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16s threshold[3], int cmpOp);
+RnxStatus rnxiThreshold_16s_C3IR(Rnx16s* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx16s threshold[3],
+    int cmpOp);
+RnxStatus rnxiThreshold_16s_AC4R(const Rnx16s* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16s threshold[3], int cmpOp);
+RnxStatus rnxiThreshold_16s_AC4IR(Rnx16s* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx16s threshold[3],
+    int cmpOp);
+RnxStatus rnxiThreshold_32f_C1R(const Rnx32f* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize,
+    Rnx32f threshold, int cmpOp);
+RnxStatus rnxiThreshold_32f_C1IR(Rnx32f* pSrcDst, int srcDstStep, RnxiSize roiSize, Rnx32f threshold, int cmpOp);
+RnxStatus rnxiThreshold_32f_C3R(const Rnx32f* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx32f threshold[3], int cmpOp);
+RnxStatus rnxiThreshold_32f_C3IR(Rnx32f* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx32f threshold[3],
+    int cmpOp);
+RnxStatus rnxiThreshold_32f_AC4R(const Rnx32f* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx32f threshold[3], int cmpOp);
+RnxStatus rnxiThreshold_32f_AC4IR(Rnx32f* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx32f threshold[3],
+    int cmpOp);
+
+/* rnxiThreshold_LT: Raises the elements below a level to the level.
+
+       dst = max(src, threshold)
+
+   Arguments
+     pSrc, srcStep: source image: first pixel of the ROI and step in bytes
+     pDst, dstStep: destination image and its step
+     roiSize: size of the region of interest in pixels
+     threshold: the level: one (C1), or an array of one per channel (3 for C3 and AC4, 4 for C4)
+     pSrcDst, srcDstStep: image that is read and receives the result, and its step
+
+   Checks, in this order
+     rnxStatusNullPointer: a pointer is null (images and constant arrays are tested together)
+     rnxStatusBadSize: ROI width or height below 1
+     rnxStatusBadStep: a step below 1
+
+   Example
+       RnxStatus status = rnxiThreshold_LT_32f_C1R(src, srcStep, dst, dstStep, roi, 0.0f); */
+
+RnxStatus rnxiThreshold_LT_8u_C1R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    Rnx8u threshold);
+RnxStatus rnxiThreshold_LT_8u_C1IR(Rnx8u* pSrcDst, int srcDstStep, RnxiSize roiSize, Rnx8u threshold);
+RnxStatus rnxiThreshold_LT_8u_C3R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx8u threshold[3]);
+RnxStatus rnxiThreshold_LT_8u_C3IR(Rnx8u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx8u threshold[3]);
+RnxStatus rnxiThreshold_LT_8u_AC4R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx8u threshold[3]);
+RnxStatus rnxiThreshold_LT_8u_AC4IR(Rnx8u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx8u threshold[3]);
+RnxStatus rnxiThreshold_LT_16u_C1R(const Rnx16u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    Rnx16u threshold);
+RnxStatus rnxiThreshold_LT_16u_C1IR(Rnx16u* pSrcDst, int srcDstStep, RnxiSize roiSize, Rnx16u threshold);
+RnxStatus rnxiThreshold_LT_16u_C3R(const Rnx16u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16u threshold[3]);
+RnxStatus rnxiThreshold_LT_16u_C3IR(Rnx16u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx16u threshold[3]);
+RnxStatus rnxiThreshold_LT_16u_AC4R(const Rnx16u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16u threshold[3]);
+RnxStatus rnxiThreshold_LT_16u_AC4IR(Rnx16u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx16u threshold[3]);
+RnxStatus rnxiThreshold_LT_16s_C1R(const Rnx16s* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    Rnx16s threshold);
+RnxStatus rnxiThreshold_LT_16s_C1IR(Rnx16s* pSrcDst, int srcDstStep, RnxiSize roiSize, Rnx16s threshold);
+RnxStatus rnxiThreshold_LT_16s_C3R(const Rnx16s* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16s threshold[3]);
+RnxStatus rnxiThreshold_LT_16s_C3IR(Rnx16s* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx16s threshold[3]);
+RnxStatus rnxiThreshold_LT_16s_AC4R(const Rnx16s* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16s threshold[3]);
+RnxStatus rnxiThreshold_LT_16s_AC4IR(Rnx16s* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx16s threshold[3]);
+RnxStatus rnxiThreshold_LT_32f_C1R(const Rnx32f* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize,
+    Rnx32f threshold);
+RnxStatus rnxiThreshold_LT_32f_C1IR(Rnx32f* pSrcDst, int srcDstStep, RnxiSize roiSize, Rnx32f threshold);
+RnxStatus rnxiThreshold_LT_32f_C3R(const Rnx32f* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx32f threshold[3]);
+RnxStatus rnxiThreshold_LT_32f_C3IR(Rnx32f* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx32f threshold[3]);
+RnxStatus rnxiThreshold_LT_32f_AC4R(const Rnx32f* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx32f threshold[3]);
+RnxStatus rnxiThreshold_LT_32f_AC4IR(Rnx32f* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx32f threshold[3]);
+
+/* rnxiThreshold_GT: Lowers the elements above a level to the level.
+
+       dst = min(src, threshold)
+
+   Arguments
+     pSrc, srcStep: source image: first pixel of the ROI and step in bytes
+     pDst, dstStep: destination image and its step
+     roiSize: size of the region of interest in pixels
+     threshold: the level: one (C1), or an array of one per channel (3 for C3 and AC4, 4 for C4)
+     pSrcDst, srcDstStep: image that is read and receives the result, and its step
+
+   Checks, in this order
+     rnxStatusNullPointer: a pointer is null (images and constant arrays are tested together)
+     rnxStatusBadSize: ROI width or height below 1
+     rnxStatusBadStep: a step below 1
+
+   Example
+       const Rnx8u legal[3] = {235, 240, 240};
+       RnxStatus status = rnxiThreshold_GT_8u_C3IR(image, step, roi, legal); */
+
+RnxStatus rnxiThreshold_GT_8u_C1R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    Rnx8u threshold);
+RnxStatus rnxiThreshold_GT_8u_C1IR(Rnx8u* pSrcDst, int srcDstStep, RnxiSize roiSize, Rnx8u threshold);
+RnxStatus rnxiThreshold_GT_8u_C3R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx8u threshold[3]);
+RnxStatus rnxiThreshold_GT_8u_C3IR(Rnx8u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx8u threshold[3]);
+RnxStatus rnxiThreshold_GT_8u_AC4R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx8u threshold[3]);
+RnxStatus rnxiThreshold_GT_8u_AC4IR(Rnx8u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx8u threshold[3]);
+RnxStatus rnxiThreshold_GT_16u_C1R(const Rnx16u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    Rnx16u threshold);
+RnxStatus rnxiThreshold_GT_16u_C1IR(Rnx16u* pSrcDst, int srcDstStep, RnxiSize roiSize, Rnx16u threshold);
+RnxStatus rnxiThreshold_GT_16u_C3R(const Rnx16u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16u threshold[3]);
+RnxStatus rnxiThreshold_GT_16u_C3IR(Rnx16u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx16u threshold[3]);
+RnxStatus rnxiThreshold_GT_16u_AC4R(const Rnx16u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16u threshold[3]);
+RnxStatus rnxiThreshold_GT_16u_AC4IR(Rnx16u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx16u threshold[3]);
+RnxStatus rnxiThreshold_GT_16s_C1R(const Rnx16s* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    Rnx16s threshold);
+RnxStatus rnxiThreshold_GT_16s_C1IR(Rnx16s* pSrcDst, int srcDstStep, RnxiSize roiSize, Rnx16s threshold);
+RnxStatus rnxiThreshold_GT_16s_C3R(const Rnx16s* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16s threshold[3]);
+RnxStatus rnxiThreshold_GT_16s_C3IR(Rnx16s* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx16s threshold[3]);
+RnxStatus rnxiThreshold_GT_16s_AC4R(const Rnx16s* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16s threshold[3]);
+RnxStatus rnxiThreshold_GT_16s_AC4IR(Rnx16s* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx16s threshold[3]);
+RnxStatus rnxiThreshold_GT_32f_C1R(const Rnx32f* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize,
+    Rnx32f threshold);
+RnxStatus rnxiThreshold_GT_32f_C1IR(Rnx32f* pSrcDst, int srcDstStep, RnxiSize roiSize, Rnx32f threshold);
+RnxStatus rnxiThreshold_GT_32f_C3R(const Rnx32f* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx32f threshold[3]);
+RnxStatus rnxiThreshold_GT_32f_C3IR(Rnx32f* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx32f threshold[3]);
+RnxStatus rnxiThreshold_GT_32f_AC4R(const Rnx32f* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx32f threshold[3]);
+RnxStatus rnxiThreshold_GT_32f_AC4IR(Rnx32f* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx32f threshold[3]);
+
+/* rnxiThreshold_Val: Replaces the elements on one side of a level by a value.
+
+       cmpOp 0:  dst = src < threshold ? value : src
+       cmpOp 4:  dst = src > threshold ? value : src
+
+   Unlike rnxiThreshold, this tests the selector before everything else.
+
+   Arguments
+     pSrc, srcStep: source image: first pixel of the ROI and step in bytes
+     pDst, dstStep: destination image and its step
+     roiSize: size of the region of interest in pixels
+     threshold: the level: one (C1), or an array of one per channel (3 for C3 and AC4, 4 for C4)
+     value: the constant: one value (C1), or an array of one value per channel (3 for C3 and AC4, 4 for C4)
+     cmpOp: 0 rnxCmpLess or 4 rnxCmpGreater: which elements are changed
+     pSrcDst, srcDstStep: image that is read and receives the result, and its step
+
+   Checks, in this order
+     rnxStatusUnsupportedMode: cmpOp neither 0 rnxCmpLess nor 4 rnxCmpGreater
+     rnxStatusNullPointer: a pointer is null (images and constant arrays are tested together)
+     rnxStatusBadSize: ROI width or height below 1
+     rnxStatusBadStep: a step below 1
+
+   Example
+       // black where it is darker than 100
+       RnxStatus status = rnxiThreshold_Val_8u_C1R(src, srcStep, dst, dstStep, roi, 100, 0, rnxCmpLess); */
+
+RnxStatus rnxiThreshold_Val_8u_C1R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    Rnx8u threshold, Rnx8u value, int cmpOp);
+RnxStatus rnxiThreshold_Val_8u_C1IR(Rnx8u* pSrcDst, int srcDstStep, RnxiSize roiSize, Rnx8u threshold, Rnx8u value,
+    int cmpOp);
+RnxStatus rnxiThreshold_Val_8u_C3R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx8u threshold[3], const Rnx8u value[3], int cmpOp);
+RnxStatus rnxiThreshold_Val_8u_C3IR(Rnx8u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx8u threshold[3],
+    const Rnx8u value[3], int cmpOp);
+RnxStatus rnxiThreshold_Val_8u_AC4R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx8u threshold[3], const Rnx8u value[3], int cmpOp);
+RnxStatus rnxiThreshold_Val_8u_AC4IR(Rnx8u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx8u threshold[3],
+    const Rnx8u value[3], int cmpOp);
+RnxStatus rnxiThreshold_Val_16u_C1R(const Rnx16u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    Rnx16u threshold, Rnx16u value, int cmpOp);
+RnxStatus rnxiThreshold_Val_16u_C1IR(Rnx16u* pSrcDst, int srcDstStep, RnxiSize roiSize, Rnx16u threshold, Rnx16u value,
+    int cmpOp);
+RnxStatus rnxiThreshold_Val_16u_C3R(const Rnx16u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16u threshold[3], const Rnx16u value[3], int cmpOp);
+RnxStatus rnxiThreshold_Val_16u_C3IR(Rnx16u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx16u threshold[3],
+    const Rnx16u value[3], int cmpOp);
+RnxStatus rnxiThreshold_Val_16u_AC4R(const Rnx16u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16u threshold[3], const Rnx16u value[3], int cmpOp);
+RnxStatus rnxiThreshold_Val_16u_AC4IR(Rnx16u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx16u threshold[3],
+    const Rnx16u value[3], int cmpOp);
+RnxStatus rnxiThreshold_Val_16s_C1R(const Rnx16s* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    Rnx16s threshold, Rnx16s value, int cmpOp);
+RnxStatus rnxiThreshold_Val_16s_C1IR(Rnx16s* pSrcDst, int srcDstStep, RnxiSize roiSize, Rnx16s threshold, Rnx16s value,
+    int cmpOp);
+RnxStatus rnxiThreshold_Val_16s_C3R(const Rnx16s* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16s threshold[3], const Rnx16s value[3], int cmpOp);
+RnxStatus rnxiThreshold_Val_16s_C3IR(Rnx16s* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx16s threshold[3],
+    const Rnx16s value[3], int cmpOp);
+RnxStatus rnxiThreshold_Val_16s_AC4R(const Rnx16s* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16s threshold[3], const Rnx16s value[3], int cmpOp);
+RnxStatus rnxiThreshold_Val_16s_AC4IR(Rnx16s* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx16s threshold[3],
+    const Rnx16s value[3], int cmpOp);
+RnxStatus rnxiThreshold_Val_32f_C1R(const Rnx32f* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize,
+    Rnx32f threshold, Rnx32f value, int cmpOp);
+RnxStatus rnxiThreshold_Val_32f_C1IR(Rnx32f* pSrcDst, int srcDstStep, RnxiSize roiSize, Rnx32f threshold, Rnx32f value,
+    int cmpOp);
+RnxStatus rnxiThreshold_Val_32f_C3R(const Rnx32f* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx32f threshold[3], const Rnx32f value[3], int cmpOp);
+RnxStatus rnxiThreshold_Val_32f_C3IR(Rnx32f* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx32f threshold[3],
+    const Rnx32f value[3], int cmpOp);
+RnxStatus rnxiThreshold_Val_32f_AC4R(const Rnx32f* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx32f threshold[3], const Rnx32f value[3], int cmpOp);
+RnxStatus rnxiThreshold_Val_32f_AC4IR(Rnx32f* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx32f threshold[3],
+    const Rnx32f value[3], int cmpOp);
+
+/* rnxiThreshold_LTVal: Replaces the elements below a level by a value.
+
+       dst = src < threshold ? value : src
+
+   Arguments
+     pSrc, srcStep: source image: first pixel of the ROI and step in bytes
+     pDst, dstStep: destination image and its step
+     roiSize: size of the region of interest in pixels
+     threshold: the level: one (C1), or an array of one per channel (3 for C3 and AC4, 4 for C4)
+     value: the constant: one value (C1), or an array of one value per channel (3 for C3 and AC4, 4 for C4)
+     pSrcDst, srcDstStep: image that is read and receives the result, and its step
+
+   Checks, in this order
+     rnxStatusNullPointer: a pointer is null (images and constant arrays are tested together)
+     rnxStatusBadSize: ROI width or height below 1
+     rnxStatusBadStep: a step below 1
+
+   Example
+       RnxStatus status = rnxiThreshold_LTVal_8u_C1R(src, srcStep, dst, dstStep, roi, 100, 0); */
+
+RnxStatus rnxiThreshold_LTVal_8u_C1R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    Rnx8u threshold, Rnx8u value);
+RnxStatus rnxiThreshold_LTVal_8u_C1IR(Rnx8u* pSrcDst, int srcDstStep, RnxiSize roiSize, Rnx8u threshold, Rnx8u value);
+RnxStatus rnxiThreshold_LTVal_8u_C3R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx8u threshold[3], const Rnx8u value[3]);
+RnxStatus rnxiThreshold_LTVal_8u_C3IR(Rnx8u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx8u threshold[3],
+    const Rnx8u value[3]);
+RnxStatus rnxiThreshold_LTVal_8u_C4R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx8u threshold[4], const Rnx8u value[4]);
+RnxStatus rnxiThreshold_LTVal_8u_C4IR(Rnx8u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx8u threshold[4],
+    const Rnx8u value[4]);
+RnxStatus rnxiThreshold_LTVal_8u_AC4R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx8u threshold[3], const Rnx8u value[3]);
+RnxStatus rnxiThreshold_LTVal_8u_AC4IR(Rnx8u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx8u threshold[3],
+    const Rnx8u value[3]);
+RnxStatus rnxiThreshold_LTVal_16u_C1R(const Rnx16u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    Rnx16u threshold, Rnx16u value);
+RnxStatus rnxiThreshold_LTVal_16u_C1IR(Rnx16u* pSrcDst, int srcDstStep, RnxiSize roiSize, Rnx16u threshold,
+    Rnx16u value);
+RnxStatus rnxiThreshold_LTVal_16u_C3R(const Rnx16u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16u threshold[3], const Rnx16u value[3]);
+RnxStatus rnxiThreshold_LTVal_16u_C3IR(Rnx16u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx16u threshold[3],
+    const Rnx16u value[3]);
+RnxStatus rnxiThreshold_LTVal_16u_C4R(const Rnx16u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16u threshold[4], const Rnx16u value[4]);
+RnxStatus rnxiThreshold_LTVal_16u_C4IR(Rnx16u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx16u threshold[4],
+    const Rnx16u value[4]);
+RnxStatus rnxiThreshold_LTVal_16u_AC4R(const Rnx16u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16u threshold[3], const Rnx16u value[3]);
+RnxStatus rnxiThreshold_LTVal_16u_AC4IR(Rnx16u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx16u threshold[3],
+    const Rnx16u value[3]);
+RnxStatus rnxiThreshold_LTVal_16s_C1R(const Rnx16s* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    Rnx16s threshold, Rnx16s value);
+RnxStatus rnxiThreshold_LTVal_16s_C1IR(Rnx16s* pSrcDst, int srcDstStep, RnxiSize roiSize, Rnx16s threshold,
+    Rnx16s value);
+RnxStatus rnxiThreshold_LTVal_16s_C3R(const Rnx16s* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16s threshold[3], const Rnx16s value[3]);
+RnxStatus rnxiThreshold_LTVal_16s_C3IR(Rnx16s* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx16s threshold[3],
+    const Rnx16s value[3]);
+RnxStatus rnxiThreshold_LTVal_16s_C4R(const Rnx16s* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16s threshold[4], const Rnx16s value[4]);
+RnxStatus rnxiThreshold_LTVal_16s_C4IR(Rnx16s* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx16s threshold[4],
+    const Rnx16s value[4]);
+RnxStatus rnxiThreshold_LTVal_16s_AC4R(const Rnx16s* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16s threshold[3], const Rnx16s value[3]);
+RnxStatus rnxiThreshold_LTVal_16s_AC4IR(Rnx16s* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx16s threshold[3],
+    const Rnx16s value[3]);
+RnxStatus rnxiThreshold_LTVal_32f_C1R(const Rnx32f* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize,
+    Rnx32f threshold, Rnx32f value);
+RnxStatus rnxiThreshold_LTVal_32f_C1IR(Rnx32f* pSrcDst, int srcDstStep, RnxiSize roiSize, Rnx32f threshold,
+    Rnx32f value);
+RnxStatus rnxiThreshold_LTVal_32f_C3R(const Rnx32f* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx32f threshold[3], const Rnx32f value[3]);
+RnxStatus rnxiThreshold_LTVal_32f_C3IR(Rnx32f* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx32f threshold[3],
+    const Rnx32f value[3]);
+RnxStatus rnxiThreshold_LTVal_32f_C4R(const Rnx32f* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx32f threshold[4], const Rnx32f value[4]);
+RnxStatus rnxiThreshold_LTVal_32f_C4IR(Rnx32f* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx32f threshold[4],
+    const Rnx32f value[4]);
+RnxStatus rnxiThreshold_LTVal_32f_AC4R(const Rnx32f* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx32f threshold[3], const Rnx32f value[3]);
+RnxStatus rnxiThreshold_LTVal_32f_AC4IR(Rnx32f* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx32f threshold[3],
+    const Rnx32f value[3]);
+
+/* rnxiThreshold_GTVal: Replaces the elements above a level by a value.
+
+       dst = src > threshold ? value : src
+
+   Arguments
+     pSrc, srcStep: source image: first pixel of the ROI and step in bytes
+     pDst, dstStep: destination image and its step
+     roiSize: size of the region of interest in pixels
+     threshold: the level: one (C1), or an array of one per channel (3 for C3 and AC4, 4 for C4)
+     value: the constant: one value (C1), or an array of one value per channel (3 for C3 and AC4, 4 for C4)
+     pSrcDst, srcDstStep: image that is read and receives the result, and its step
+
+   Checks, in this order
+     rnxStatusNullPointer: a pointer is null (images and constant arrays are tested together)
+     rnxStatusBadSize: ROI width or height below 1
+     rnxStatusBadStep: a step below 1
+
+   Example
+       RnxStatus status = rnxiThreshold_GTVal_16u_C1IR(image, step, roi, 4000, 65535); */
+
+RnxStatus rnxiThreshold_GTVal_8u_C1R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    Rnx8u threshold, Rnx8u value);
+RnxStatus rnxiThreshold_GTVal_8u_C1IR(Rnx8u* pSrcDst, int srcDstStep, RnxiSize roiSize, Rnx8u threshold, Rnx8u value);
+RnxStatus rnxiThreshold_GTVal_8u_C3R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx8u threshold[3], const Rnx8u value[3]);
+RnxStatus rnxiThreshold_GTVal_8u_C3IR(Rnx8u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx8u threshold[3],
+    const Rnx8u value[3]);
+RnxStatus rnxiThreshold_GTVal_8u_C4R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx8u threshold[4], const Rnx8u value[4]);
+RnxStatus rnxiThreshold_GTVal_8u_C4IR(Rnx8u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx8u threshold[4],
+    const Rnx8u value[4]);
+RnxStatus rnxiThreshold_GTVal_8u_AC4R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx8u threshold[3], const Rnx8u value[3]);
+RnxStatus rnxiThreshold_GTVal_8u_AC4IR(Rnx8u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx8u threshold[3],
+    const Rnx8u value[3]);
+RnxStatus rnxiThreshold_GTVal_16u_C1R(const Rnx16u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    Rnx16u threshold, Rnx16u value);
+RnxStatus rnxiThreshold_GTVal_16u_C1IR(Rnx16u* pSrcDst, int srcDstStep, RnxiSize roiSize, Rnx16u threshold,
+    Rnx16u value);
+RnxStatus rnxiThreshold_GTVal_16u_C3R(const Rnx16u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16u threshold[3], const Rnx16u value[3]);
+RnxStatus rnxiThreshold_GTVal_16u_C3IR(Rnx16u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx16u threshold[3],
+    const Rnx16u value[3]);
+RnxStatus rnxiThreshold_GTVal_16u_C4R(const Rnx16u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16u threshold[4], const Rnx16u value[4]);
+RnxStatus rnxiThreshold_GTVal_16u_C4IR(Rnx16u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx16u threshold[4],
+    const Rnx16u value[4]);
+RnxStatus rnxiThreshold_GTVal_16u_AC4R(const Rnx16u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16u threshold[3], const Rnx16u value[3]);
+RnxStatus rnxiThreshold_GTVal_16u_AC4IR(Rnx16u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx16u threshold[3],
+    const Rnx16u value[3]);
+RnxStatus rnxiThreshold_GTVal_16s_C1R(const Rnx16s* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    Rnx16s threshold, Rnx16s value);
+RnxStatus rnxiThreshold_GTVal_16s_C1IR(Rnx16s* pSrcDst, int srcDstStep, RnxiSize roiSize, Rnx16s threshold,
+    Rnx16s value);
+RnxStatus rnxiThreshold_GTVal_16s_C3R(const Rnx16s* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16s threshold[3], const Rnx16s value[3]);
+RnxStatus rnxiThreshold_GTVal_16s_C3IR(Rnx16s* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx16s threshold[3],
+    const Rnx16s value[3]);
+RnxStatus rnxiThreshold_GTVal_16s_C4R(const Rnx16s* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16s threshold[4], const Rnx16s value[4]);
+RnxStatus rnxiThreshold_GTVal_16s_C4IR(Rnx16s* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx16s threshold[4],
+    const Rnx16s value[4]);
+RnxStatus rnxiThreshold_GTVal_16s_AC4R(const Rnx16s* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16s threshold[3], const Rnx16s value[3]);
+RnxStatus rnxiThreshold_GTVal_16s_AC4IR(Rnx16s* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx16s threshold[3],
+    const Rnx16s value[3]);
+RnxStatus rnxiThreshold_GTVal_32f_C1R(const Rnx32f* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize,
+    Rnx32f threshold, Rnx32f value);
+RnxStatus rnxiThreshold_GTVal_32f_C1IR(Rnx32f* pSrcDst, int srcDstStep, RnxiSize roiSize, Rnx32f threshold,
+    Rnx32f value);
+RnxStatus rnxiThreshold_GTVal_32f_C3R(const Rnx32f* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx32f threshold[3], const Rnx32f value[3]);
+RnxStatus rnxiThreshold_GTVal_32f_C3IR(Rnx32f* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx32f threshold[3],
+    const Rnx32f value[3]);
+RnxStatus rnxiThreshold_GTVal_32f_C4R(const Rnx32f* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx32f threshold[4], const Rnx32f value[4]);
+RnxStatus rnxiThreshold_GTVal_32f_C4IR(Rnx32f* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx32f threshold[4],
+    const Rnx32f value[4]);
+RnxStatus rnxiThreshold_GTVal_32f_AC4R(const Rnx32f* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx32f threshold[3], const Rnx32f value[3]);
+RnxStatus rnxiThreshold_GTVal_32f_AC4IR(Rnx32f* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx32f threshold[3],
+    const Rnx32f value[3]);
+
+/* rnxiThreshold_LTValGTVal: Replaces the elements below one level and those above another, each by its own value.
+
+       dst = src < thresholdLT ? valueLT : src > thresholdGT ? valueGT : src
+
+   The levels may be equal. They are compared with the image's elements, never with a value put in.
+
+   Arguments
+     pSrc, srcStep: source image: first pixel of the ROI and step in bytes
+     pDst, dstStep: destination image and its step
+     roiSize: size of the region of interest in pixels
+     thresholdLT, valueLT, thresholdGT, valueGT: lower level and its value, upper level and its value: one each
+         (C1), or arrays of one per channel
+     pSrcDst, srcDstStep: image that is read and receives the result, and its step
+
+   Checks, in this order
+     rnxStatusNullPointer: a pointer is null (images and constant arrays are tested together)
+     rnxStatusBadSize: ROI width or height below 1
+     rnxStatusBadStep: a step below 1
+     rnxStatusBadThreshold: thresholdGT below thresholdLT in a channel that is used (three channels for AC4)
+
+   Example
+       // two levels: black below 128, white from 128
+       RnxStatus status = rnxiThreshold_LTValGTVal_8u_C1R(src, srcStep, dst, dstStep, roi, 128, 0, 127, 255); */
+
+RnxStatus rnxiThreshold_LTValGTVal_8u_C1R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    Rnx8u thresholdLT, Rnx8u valueLT, Rnx8u thresholdGT, Rnx8u valueGT);
+RnxStatus rnxiThreshold_LTValGTVal_8u_C1IR(Rnx8u* pSrcDst, int srcDstStep, RnxiSize roiSize, Rnx8u thresholdLT,
+    Rnx8u valueLT, Rnx8u thresholdGT, Rnx8u valueGT);
+RnxStatus rnxiThreshold_LTValGTVal_8u_C3R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx8u thresholdLT[3], const Rnx8u valueLT[3], const Rnx8u thresholdGT[3], const Rnx8u valueGT[3]);
+RnxStatus rnxiThreshold_LTValGTVal_8u_C3IR(Rnx8u* pSrcDst, int srcDstStep, RnxiSize roiSize, const Rnx8u thresholdLT[3],
+    const Rnx8u valueLT[3], const Rnx8u thresholdGT[3], const Rnx8u valueGT[3]);
+RnxStatus rnxiThreshold_LTValGTVal_8u_AC4R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx8u thresholdLT[3], const Rnx8u valueLT[3], const Rnx8u thresholdGT[3], const Rnx8u valueGT[3]);
+RnxStatus rnxiThreshold_LTValGTVal_8u_AC4IR(Rnx8u* pSrcDst, int srcDstStep, RnxiSize roiSize,
+    const Rnx8u thresholdLT[3], const Rnx8u valueLT[3], const Rnx8u thresholdGT[3], const Rnx8u valueGT[3]);
+RnxStatus rnxiThreshold_LTValGTVal_16u_C1R(const Rnx16u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    Rnx16u thresholdLT, Rnx16u valueLT, Rnx16u thresholdGT, Rnx16u valueGT);
+RnxStatus rnxiThreshold_LTValGTVal_16u_C1IR(Rnx16u* pSrcDst, int srcDstStep, RnxiSize roiSize, Rnx16u thresholdLT,
+    Rnx16u valueLT, Rnx16u thresholdGT, Rnx16u valueGT);
+RnxStatus rnxiThreshold_LTValGTVal_16u_C3R(const Rnx16u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16u thresholdLT[3], const Rnx16u valueLT[3], const Rnx16u thresholdGT[3], const Rnx16u valueGT[3]);
+RnxStatus rnxiThreshold_LTValGTVal_16u_C3IR(Rnx16u* pSrcDst, int srcDstStep, RnxiSize roiSize,
+    const Rnx16u thresholdLT[3], const Rnx16u valueLT[3], const Rnx16u thresholdGT[3], const Rnx16u valueGT[3]);
+RnxStatus rnxiThreshold_LTValGTVal_16u_AC4R(const Rnx16u* pSrc, int srcStep, Rnx16u* pDst, int dstStep,
+    RnxiSize roiSize, const Rnx16u thresholdLT[3], const Rnx16u valueLT[3], const Rnx16u thresholdGT[3],
+    const Rnx16u valueGT[3]);
+RnxStatus rnxiThreshold_LTValGTVal_16u_AC4IR(Rnx16u* pSrcDst, int srcDstStep, RnxiSize roiSize,
+    const Rnx16u thresholdLT[3], const Rnx16u valueLT[3], const Rnx16u thresholdGT[3], const Rnx16u valueGT[3]);
+RnxStatus rnxiThreshold_LTValGTVal_16s_C1R(const Rnx16s* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    Rnx16s thresholdLT, Rnx16s valueLT, Rnx16s thresholdGT, Rnx16s valueGT);
+RnxStatus rnxiThreshold_LTValGTVal_16s_C1IR(Rnx16s* pSrcDst, int srcDstStep, RnxiSize roiSize, Rnx16s thresholdLT,
+    Rnx16s valueLT, Rnx16s thresholdGT, Rnx16s valueGT);
+RnxStatus rnxiThreshold_LTValGTVal_16s_C3R(const Rnx16s* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx16s thresholdLT[3], const Rnx16s valueLT[3], const Rnx16s thresholdGT[3], const Rnx16s valueGT[3]);
+RnxStatus rnxiThreshold_LTValGTVal_16s_C3IR(Rnx16s* pSrcDst, int srcDstStep, RnxiSize roiSize,
+    const Rnx16s thresholdLT[3], const Rnx16s valueLT[3], const Rnx16s thresholdGT[3], const Rnx16s valueGT[3]);
+RnxStatus rnxiThreshold_LTValGTVal_16s_AC4R(const Rnx16s* pSrc, int srcStep, Rnx16s* pDst, int dstStep,
+    RnxiSize roiSize, const Rnx16s thresholdLT[3], const Rnx16s valueLT[3], const Rnx16s thresholdGT[3],
+    const Rnx16s valueGT[3]);
+RnxStatus rnxiThreshold_LTValGTVal_16s_AC4IR(Rnx16s* pSrcDst, int srcDstStep, RnxiSize roiSize,
+    const Rnx16s thresholdLT[3], const Rnx16s valueLT[3], const Rnx16s thresholdGT[3], const Rnx16s valueGT[3]);
+RnxStatus rnxiThreshold_LTValGTVal_32f_C1R(const Rnx32f* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize,
+    Rnx32f thresholdLT, Rnx32f valueLT, Rnx32f thresholdGT, Rnx32f valueGT);
+RnxStatus rnxiThreshold_LTValGTVal_32f_C1IR(Rnx32f* pSrcDst, int srcDstStep, RnxiSize roiSize, Rnx32f thresholdLT,
+    Rnx32f valueLT, Rnx32f thresholdGT, Rnx32f valueGT);
+RnxStatus rnxiThreshold_LTValGTVal_32f_C3R(const Rnx32f* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize,
+    const Rnx32f thresholdLT[3], const Rnx32f valueLT[3], const Rnx32f thresholdGT[3], const Rnx32f valueGT[3]);
+RnxStatus rnxiThreshold_LTValGTVal_32f_C3IR(Rnx32f* pSrcDst, int srcDstStep, RnxiSize roiSize,
+    const Rnx32f thresholdLT[3], const Rnx32f valueLT[3], const Rnx32f thresholdGT[3], const Rnx32f valueGT[3]);
+RnxStatus rnxiThreshold_LTValGTVal_32f_AC4R(const Rnx32f* pSrc, int srcStep, Rnx32f* pDst, int dstStep,
+    RnxiSize roiSize, const Rnx32f thresholdLT[3], const Rnx32f valueLT[3], const Rnx32f thresholdGT[3],
+    const Rnx32f valueGT[3]);
+RnxStatus rnxiThreshold_LTValGTVal_32f_AC4IR(Rnx32f* pSrcDst, int srcDstStep, RnxiSize roiSize,
+    const Rnx32f thresholdLT[3], const Rnx32f valueLT[3], const Rnx32f thresholdGT[3], const Rnx32f valueGT[3]);
 
 #ifdef __cplusplus
 }

@@ -1,4 +1,4 @@
-/* Border extension; Copies; Mirror and transpose; Filling with a constant; Reordering channels.
+/* Gray and one-bit images; Border extension; Type conversion; Copies; Mirror and transpose; Scaling; Filling with a constant; Reordering channels.
    Written by tools/apigen.py from the table of exports in api/: change it there. */
 #ifndef RNXIP_DATA_H
 #define RNXIP_DATA_H
@@ -8,6 +8,74 @@
 #ifdef __cplusplus
 extern "C" {
 #endif
+
+/* Gray and one-bit images
+   =======================
+
+   A one-bit image is rows of packed bits, filled from the least significant bit of a byte upward. A row may start in the
+   middle of a byte: with b the bit offset modulo 8, pixel x is bit (b + x) mod 8 of byte (b + x) div 8 of the row. Only
+   the offset modulo 8 counts; for a larger one move the pointer.
+
+   Source and destination may not overlap. */
+
+/* rnxiGrayToBin: Turns a gray image into a one-bit image by a threshold.
+
+       bit = src > threshold
+
+   A source that is not a number gives 0. Bits of the destination outside the ROI keep their values.
+
+   Arguments
+     pSrc, srcStep: source image: first pixel of the ROI and step in bytes
+     pDst, dstStep, dstBitOffset: one-bit destination image, its step in bytes, and the bit at which the rows start
+     roiSize: size of the region of interest in pixels
+     threshold: values above it give 1
+
+   Checks, in this order
+     rnxStatusNullPointer: a pointer is null (images and constant arrays are tested together)
+     rnxStatusBadSize: ROI width or height below 1
+     rnxStatusBadStep: a step below 1
+     rnxStatusBadSize: bit offset below 0
+
+   Example
+       RnxStatus status = rnxiGrayToBin_8u1u_C1R(gray, grayStep, bits, bitsStep, 0, roi, 127); */
+
+RnxStatus rnxiGrayToBin_8u1u_C1R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, int dstBitOffset,
+    RnxiSize roiSize, Rnx8u threshold);
+RnxStatus rnxiGrayToBin_16u1u_C1R(const Rnx16u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, int dstBitOffset,
+    RnxiSize roiSize, Rnx16u threshold);
+RnxStatus rnxiGrayToBin_16s1u_C1R(const Rnx16s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, int dstBitOffset,
+    RnxiSize roiSize, Rnx16s threshold);
+RnxStatus rnxiGrayToBin_32f1u_C1R(const Rnx32f* pSrc, int srcStep, Rnx8u* pDst, int dstStep, int dstBitOffset,
+    RnxiSize roiSize, Rnx32f threshold);
+
+/* rnxiBinToGray: Turns a one-bit image into a gray image of two levels.
+
+       dst = bit ? hiVal : loVal
+
+   Arguments
+     pSrc, srcStep, srcBitOffset: one-bit source image, its step in bytes, and the bit at which the rows start
+     pDst, dstStep: destination image and its step
+     roiSize: size of the region of interest in pixels
+     loVal, hiVal: the values for bits 0 and 1
+
+   Checks, in this order
+     rnxStatusNullPointer: a pointer is null (images and constant arrays are tested together)
+     rnxStatusBadSize: ROI width or height below 1
+     rnxStatusBadStep: a step below 1
+     rnxStatusBadSize: bit offset below 0
+
+   Example
+       RnxStatus status = rnxiBinToGray_1u8u_C1R(bits, bitsStep, 0, gray, grayStep, roi, 0, 255); */
+
+RnxStatus rnxiBinToGray_1u8u_C1R(const Rnx8u* pSrc, int srcStep, int srcBitOffset, Rnx8u* pDst, int dstStep,
+    RnxiSize roiSize, Rnx8u loVal, Rnx8u hiVal);
+RnxStatus rnxiBinToGray_1u16u_C1R(const Rnx8u* pSrc, int srcStep, int srcBitOffset, Rnx16u* pDst, int dstStep,
+    RnxiSize roiSize, Rnx16u loVal, Rnx16u hiVal);
+RnxStatus rnxiBinToGray_1u16s_C1R(const Rnx8u* pSrc, int srcStep, int srcBitOffset, Rnx16s* pDst, int dstStep,
+    RnxiSize roiSize, Rnx16s loVal, Rnx16s hiVal);
+RnxStatus rnxiBinToGray_1u32f_C1R(const Rnx8u* pSrc, int srcStep, int srcBitOffset, Rnx32f* pDst, int dstStep,
+    RnxiSize roiSize, Rnx32f loVal, Rnx32f hiVal);
+
 
 /* Border extension
    ================
@@ -588,13 +656,201 @@ RnxStatus rnxiCopyWrapBorder_32f_C1IR_L(Rnx32f* pSrcDst, Rnx64s srcDstStep, cons
     const RnxiSizeL* dstRoiSize, Rnx64s topBorderHeight, Rnx64s leftBorderWidth);
 
 
+/* Type conversion
+   ===============
+
+   A value is rounded where it has to be, then saturated to the destination's type. The caller's floating-point control
+   state has no influence on results and is the same after the call.
+
+   AC4 converts three channels and never changes the destination's fourth element. Images may overlap in any way: the
+   result is then that of a loop over the rows from the top and over the elements of a row from the left. */
+
+/* rnxiConvert: Converts an image to another element type.
+
+       R, Rs   dst = saturate(src)                                     integers, and everything to 32f and 64f
+       R       dst = saturate(round(src))                              32f to integers
+       RSfs    dst = saturate(round(src * 2^-scaleFactor))
+
+   To 32f and 64f every value is exact, except that 32-bit integers round to the nearest float, ties to even. Rs forms
+   turn negative values into 0.
+
+   Integer sources with a scale factor give the exact scaled value, rounded once; a factor above the bits of the source
+   gives 0. Of float sources the factor is a power of two in single precision: a factor above 126 multiplies by 0, one
+   below -127 by infinity. 64f is multiplied and rounded in double precision.
+
+   32f and 64f to integers: a value above the destination's range, infinity included, gives the largest value, one below
+   gives the smallest. What is not a number gives the smallest value with rnxRoundZero and rnxRoundNearestEven, and the
+   largest with rnxRoundHalfAway. The IRSfs form reads floats and leaves integers in their place.
+
+   Arguments
+     pSrc, srcStep: source image: first pixel of the ROI and step in bytes
+     pDst, dstStep: destination image and its step
+     roiSize: size of the region of interest in pixels
+     roundMode: 0 rnxRoundZero, 1 rnxRoundNearestEven, every other value as 2 rnxRoundHalfAway
+     scaleFactor: the value is multiplied by 2^-scaleFactor, then rounded by roundMode and saturated; any value
+     pSrcDst, srcDstStep: image that is read and receives the result, and its step
+
+   Checks, in this order
+     rnxStatusNullPointer: a pointer is null (images and constant arrays are tested together)
+     rnxStatusBadSize: ROI width or height below 1
+     rnxStatusBadStep: a step below 1
+
+   Example
+       RnxStatus status = rnxiConvert_8u32f_C3R(bytes, byteStep, floats, floatStep, roi);
+       ...
+       status = rnxiConvert_32f8u_C3R(floats, floatStep, bytes, byteStep, roi, rnxRoundNearestEven); */
+
+RnxStatus rnxiConvert_8u16u_C1R(const Rnx8u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u16u_C3R(const Rnx8u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u16u_C4R(const Rnx8u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u16u_AC4R(const Rnx8u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u16s_C1R(const Rnx8u* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u16s_C3R(const Rnx8u* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u16s_C4R(const Rnx8u* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u16s_AC4R(const Rnx8u* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u32s_C1R(const Rnx8u* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u32s_C3R(const Rnx8u* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u32s_C4R(const Rnx8u* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u32s_AC4R(const Rnx8u* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u32f_C1R(const Rnx8u* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u32f_C3R(const Rnx8u* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u32f_C4R(const Rnx8u* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8u32f_AC4R(const Rnx8u* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8s32s_C1R(const Rnx8s* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8s32s_C3R(const Rnx8s* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8s32s_C4R(const Rnx8s* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8s32s_AC4R(const Rnx8s* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8s32f_C1R(const Rnx8s* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8s32f_C3R(const Rnx8s* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8s32f_C4R(const Rnx8s* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8s32f_AC4R(const Rnx8s* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16u8u_C1R(const Rnx16u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16u8u_C3R(const Rnx16u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16u8u_C4R(const Rnx16u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16u8u_AC4R(const Rnx16u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16u32s_C1R(const Rnx16u* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16u32s_C3R(const Rnx16u* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16u32s_C4R(const Rnx16u* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16u32s_AC4R(const Rnx16u* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16u32f_C1R(const Rnx16u* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16u32f_C3R(const Rnx16u* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16u32f_C4R(const Rnx16u* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16u32f_AC4R(const Rnx16u* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16s8u_C1R(const Rnx16s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16s8u_C3R(const Rnx16s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16s8u_C4R(const Rnx16s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16s8u_AC4R(const Rnx16s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16s32s_C1R(const Rnx16s* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16s32s_C3R(const Rnx16s* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16s32s_C4R(const Rnx16s* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16s32s_AC4R(const Rnx16s* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16s32f_C1R(const Rnx16s* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16s32f_C3R(const Rnx16s* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16s32f_C4R(const Rnx16s* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16s32f_AC4R(const Rnx16s* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_32s8u_C1R(const Rnx32s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_32s8u_C3R(const Rnx32s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_32s8u_C4R(const Rnx32s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_32s8u_AC4R(const Rnx32s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_32s8s_C1R(const Rnx32s* pSrc, int srcStep, Rnx8s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_32s8s_C3R(const Rnx32s* pSrc, int srcStep, Rnx8s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_32s8s_C4R(const Rnx32s* pSrc, int srcStep, Rnx8s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_32s8s_AC4R(const Rnx32s* pSrc, int srcStep, Rnx8s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8s16s_C1R(const Rnx8s* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8s64f_C1R(const Rnx8s* pSrc, int srcStep, Rnx64f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16u32u_C1R(const Rnx16u* pSrc, int srcStep, Rnx32u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_32s32f_C1R(const Rnx32s* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_32u32f_C1R(const Rnx32u* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8s8u_C1Rs(const Rnx8s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8s16u_C1Rs(const Rnx8s* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_8s32u_C1Rs(const Rnx8s* pSrc, int srcStep, Rnx32u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16s16u_C1Rs(const Rnx16s* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_16s32u_C1Rs(const Rnx16s* pSrc, int srcStep, Rnx32u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_32s32u_C1Rs(const Rnx32s* pSrc, int srcStep, Rnx32u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiConvert_32f8u_C1R(const Rnx32f* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f8u_C3R(const Rnx32f* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f8u_C4R(const Rnx32f* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f8u_AC4R(const Rnx32f* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f8s_C1R(const Rnx32f* pSrc, int srcStep, Rnx8s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f8s_C3R(const Rnx32f* pSrc, int srcStep, Rnx8s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f8s_C4R(const Rnx32f* pSrc, int srcStep, Rnx8s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f8s_AC4R(const Rnx32f* pSrc, int srcStep, Rnx8s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f16u_C1R(const Rnx32f* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f16u_C3R(const Rnx32f* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f16u_C4R(const Rnx32f* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f16u_AC4R(const Rnx32f* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f16s_C1R(const Rnx32f* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f16s_C3R(const Rnx32f* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f16s_C4R(const Rnx32f* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_32f16s_AC4R(const Rnx32f* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode);
+RnxStatus rnxiConvert_8u8s_C1RSfs(const Rnx8u* pSrc, int srcStep, Rnx8s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_16u8s_C1RSfs(const Rnx16u* pSrc, int srcStep, Rnx8s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_16u16s_C1RSfs(const Rnx16u* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_16s8s_C1RSfs(const Rnx16s* pSrc, int srcStep, Rnx8s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_32s16u_C1RSfs(const Rnx32s* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_32s16s_C1RSfs(const Rnx32s* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_32u8u_C1RSfs(const Rnx32u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_32u8s_C1RSfs(const Rnx32u* pSrc, int srcStep, Rnx8s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_32u16u_C1RSfs(const Rnx32u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_32u16s_C1RSfs(const Rnx32u* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_32u32s_C1RSfs(const Rnx32u* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_32f8u_C1RSfs(const Rnx32f* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_32f8s_C1RSfs(const Rnx32f* pSrc, int srcStep, Rnx8s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_32f16u_C1RSfs(const Rnx32f* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_32f16s_C1RSfs(const Rnx32f* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_32f32u_C1RSfs(const Rnx32f* pSrc, int srcStep, Rnx32u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_32f32s_C1RSfs(const Rnx32f* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_64f8u_C1RSfs(const Rnx64f* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_64f8s_C1RSfs(const Rnx64f* pSrc, int srcStep, Rnx8s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_64f16u_C1RSfs(const Rnx64f* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_64f16s_C1RSfs(const Rnx64f* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize,
+    int roundMode, int scaleFactor);
+RnxStatus rnxiConvert_32f32u_C1IRSfs(Rnx32u* pSrcDst, int srcDstStep, RnxiSize roiSize, int roundMode, int scaleFactor);
+
+
 /* Copies
    ======
 
    Steps may have any value; a step of 0 reads or writes the same row again. Values are copied bit by bit.
 
-   Images may overlap. The result is then that of a loop over the rows from the top and over the pixels of a row from the
-   left, where a pixel is read before it is written (a form that leaves out channels: the channels that it moves). So one
+   Images may overlap. The result is then that of a loop over the rows from the top and over a row from the left: over its
+   elements in C1R, C3R, C4R and AC4R, over its pixels in the other forms, which read a pixel before they write it. So one
    image may be moved up or to the left inside another by a plain copy, but not down or to the right.
 
    Forms that leave elements of the destination as they are may rewrite them with their own value: two threads may not
@@ -866,7 +1122,7 @@ RnxStatus rnxiDup_8u_C1C4R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstS
    With flip 3 and 4 a step below 1 gives rnxStatusBadStep, before the size, and images that have a byte in common give
    rnxStatusUnsupportedMode, last; so does the in-place form. The other axes check no step: one pointer and one step for
    source and destination mean in place, otherwise overlapping images give the result of a loop over the source's rows
-   from the top and over the pixels of a row from the left.
+   from the top and over a row from the left: over its elements with flip 0, over its pixels with flip 1 and 2.
 
    Upside down, an image of 2097153 bytes or more is written around the caches where it does not fit them.
 
@@ -980,6 +1236,221 @@ RnxStatus rnxiTranspose_32f_C3IR(Rnx32f* pSrcDst, int srcDstStep, RnxiSize roiSi
 RnxStatus rnxiTranspose_32f_C4R(const Rnx32f* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize);
 RnxStatus rnxiTranspose_32f_C4IR(Rnx32f* pSrcDst, int srcDstStep, RnxiSize roiSize);
 RnxStatus rnxiTranspose_32fc_C1R(const Rnx32fc* pSrc, int srcStep, Rnx32fc* pDst, int dstStep, RnxiSize roiSize);
+
+
+/* Scaling
+   =======
+
+   The whole range of one type is mapped onto the whole range of another, or an image is multiplied and added to. The
+   caller's floating-point control state has no influence on results and is the same after the call.
+
+   AC4 works on three channels and never changes the destination's fourth element. Images may overlap in any way: the
+   result is then that of a loop over the rows from the top and over the elements of a row from the left. */
+
+/* rnxiScale: Maps the whole value range of one type onto that of another.
+
+       8u16u   dst = src * 257
+       8u16s   dst = src * 257 - 32768
+       8u32s   dst = src * 16843009 - 2147483648
+       8u32f   dst = vMin + src * ((vMax - vMin) / 255)
+       32f8u   dst = round(k * clamp(src, vMin, vMax) - k * vMin), k = 255 / (vMax - vMin)
+       16u8u   dst = round(src * (255 / 65535))                        fast: src >> 8
+       16s8u   dst = round((src + 32768) * (255 / 65535))              fast: (src + 32768) >> 8
+       32s8u   dst = round((src + 2147483648) * (255 / 4294967295))    fast: (src + 2147483648) >> 24
+
+   round() is half to even; the formulas with 32f, and that of 32s8u, are in single precision, operation by operation. A
+   32f element that is not a number becomes vMax and gives 255.
+
+   Arguments
+     pSrc, srcStep: source image: first pixel of the ROI and step in bytes
+     pDst, dstStep: destination image and its step
+     roiSize: size of the region of interest in pixels
+     vMin, vMax: the range of the 32f image that corresponds to 0 ... 255
+     hint: 2 rnxAlgHintAccurate: the accurate path; every other value: the fast one
+
+   Checks, in this order
+     rnxStatusNullPointer: a pointer is null (images and constant arrays are tested together)
+     rnxStatusBadSize: ROI width or height below 1
+     rnxStatusBadStep: a step below 1
+     rnxStatusBadScaleRange: vMax not above vMin, or one of them not a number; tested before everything else
+
+   Example
+       RnxStatus status = rnxiScale_16u8u_C1R(raw, rawStep, view, viewStep, roi, rnxAlgHintAccurate); */
+
+RnxStatus rnxiScale_8u16u_C1R(const Rnx8u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiScale_8u16u_C3R(const Rnx8u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiScale_8u16u_C4R(const Rnx8u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiScale_8u16u_AC4R(const Rnx8u* pSrc, int srcStep, Rnx16u* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiScale_8u16s_C1R(const Rnx8u* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiScale_8u16s_C3R(const Rnx8u* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiScale_8u16s_C4R(const Rnx8u* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiScale_8u16s_AC4R(const Rnx8u* pSrc, int srcStep, Rnx16s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiScale_8u32s_C1R(const Rnx8u* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiScale_8u32s_C3R(const Rnx8u* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiScale_8u32s_C4R(const Rnx8u* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiScale_8u32s_AC4R(const Rnx8u* pSrc, int srcStep, Rnx32s* pDst, int dstStep, RnxiSize roiSize);
+RnxStatus rnxiScale_8u32f_C1R(const Rnx8u* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize, Rnx32f vMin,
+    Rnx32f vMax);
+RnxStatus rnxiScale_8u32f_C3R(const Rnx8u* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize, Rnx32f vMin,
+    Rnx32f vMax);
+RnxStatus rnxiScale_8u32f_C4R(const Rnx8u* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize, Rnx32f vMin,
+    Rnx32f vMax);
+RnxStatus rnxiScale_8u32f_AC4R(const Rnx8u* pSrc, int srcStep, Rnx32f* pDst, int dstStep, RnxiSize roiSize, Rnx32f vMin,
+    Rnx32f vMax);
+RnxStatus rnxiScale_32f8u_C1R(const Rnx32f* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize, Rnx32f vMin,
+    Rnx32f vMax);
+RnxStatus rnxiScale_32f8u_C3R(const Rnx32f* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize, Rnx32f vMin,
+    Rnx32f vMax);
+RnxStatus rnxiScale_32f8u_C4R(const Rnx32f* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize, Rnx32f vMin,
+    Rnx32f vMax);
+RnxStatus rnxiScale_32f8u_AC4R(const Rnx32f* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize, Rnx32f vMin,
+    Rnx32f vMax);
+RnxStatus rnxiScale_16u8u_C1R(const Rnx16u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize, int hint);
+RnxStatus rnxiScale_16u8u_C3R(const Rnx16u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize, int hint);
+RnxStatus rnxiScale_16u8u_C4R(const Rnx16u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize, int hint);
+RnxStatus rnxiScale_16u8u_AC4R(const Rnx16u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize, int hint);
+RnxStatus rnxiScale_16s8u_C1R(const Rnx16s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize, int hint);
+RnxStatus rnxiScale_16s8u_C3R(const Rnx16s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize, int hint);
+RnxStatus rnxiScale_16s8u_C4R(const Rnx16s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize, int hint);
+RnxStatus rnxiScale_16s8u_AC4R(const Rnx16s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize, int hint);
+RnxStatus rnxiScale_32s8u_C1R(const Rnx32s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize, int hint);
+RnxStatus rnxiScale_32s8u_C3R(const Rnx32s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize, int hint);
+RnxStatus rnxiScale_32s8u_C4R(const Rnx32s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize, int hint);
+RnxStatus rnxiScale_32s8u_AC4R(const Rnx32s* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize, int hint);
+
+/* rnxiScaleC: Multiplies an image by a constant, adds another and converts.
+
+       dst = src * mVal + aVal
+
+   Accurate: in double precision, clamped to the destination's range and rounded half to even. Fast: the same in single
+   precision where source and destination have 8 or 16 bits or are 32f, otherwise in double. To an integer, what is not a
+   number gives the smallest value of the type; 32f and 64f results are those of IEEE 754, infinity included.
+
+   Where source and destination have one type, |mVal - 1| and |aVal| below 2^-52 make the call a copy of bits with the
+   checks of rnxiCopy: a pointer null, a size below 1.
+
+   Arguments
+     pSrc, srcStep: source image: first pixel of the ROI and step in bytes
+     mVal, aVal: factor and addend
+     pDst, dstStep: destination image and its step
+     roiSize: size of the region of interest in pixels
+     hint: 2 rnxAlgHintAccurate: the accurate path; every other value: the fast one
+     pSrcDst, srcDstStep: image that is read and receives the result, and its step
+
+   Checks, in this order
+     rnxStatusNullPointer: a pointer is null (images and constant arrays are tested together)
+     rnxStatusBadSize: ROI width or height below 1
+     rnxStatusBadStep: a step below 1
+
+   Example
+       // Celsius to Fahrenheit
+       RnxStatus status = rnxiScaleC_16s32f_C1R(src, srcStep, 1.8, 32.0, dst, dstStep, roi, rnxAlgHintFast); */
+
+RnxStatus rnxiScaleC_8u8s_C1R(const Rnx8u* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx8s* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_8u16u_C1R(const Rnx8u* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx16u* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_8u16s_C1R(const Rnx8u* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx16s* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_8u32s_C1R(const Rnx8u* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx32s* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_8u32f_C1R(const Rnx8u* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx32f* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_8u64f_C1R(const Rnx8u* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx64f* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_8s8u_C1R(const Rnx8s* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx8u* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_8s16u_C1R(const Rnx8s* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx16u* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_8s16s_C1R(const Rnx8s* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx16s* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_8s32s_C1R(const Rnx8s* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx32s* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_8s32f_C1R(const Rnx8s* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx32f* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_8s64f_C1R(const Rnx8s* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx64f* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_16u8u_C1R(const Rnx16u* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx8u* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_16u8s_C1R(const Rnx16u* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx8s* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_16u16s_C1R(const Rnx16u* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx16s* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_16u32s_C1R(const Rnx16u* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx32s* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_16u32f_C1R(const Rnx16u* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx32f* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_16u64f_C1R(const Rnx16u* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx64f* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_16s8u_C1R(const Rnx16s* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx8u* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_16s8s_C1R(const Rnx16s* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx8s* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_16s16u_C1R(const Rnx16s* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx16u* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_16s32s_C1R(const Rnx16s* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx32s* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_16s32f_C1R(const Rnx16s* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx32f* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_16s64f_C1R(const Rnx16s* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx64f* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_32s8u_C1R(const Rnx32s* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx8u* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_32s8s_C1R(const Rnx32s* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx8s* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_32s16u_C1R(const Rnx32s* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx16u* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_32s16s_C1R(const Rnx32s* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx16s* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_32s32f_C1R(const Rnx32s* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx32f* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_32s64f_C1R(const Rnx32s* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx64f* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_32f8u_C1R(const Rnx32f* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx8u* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_32f8s_C1R(const Rnx32f* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx8s* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_32f16u_C1R(const Rnx32f* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx16u* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_32f16s_C1R(const Rnx32f* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx16s* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_32f32s_C1R(const Rnx32f* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx32s* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_32f64f_C1R(const Rnx32f* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx64f* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_64f8u_C1R(const Rnx64f* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx8u* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_64f8s_C1R(const Rnx64f* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx8s* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_64f16u_C1R(const Rnx64f* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx16u* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_64f16s_C1R(const Rnx64f* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx16s* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_64f32s_C1R(const Rnx64f* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx32s* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_64f32f_C1R(const Rnx64f* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx32f* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_8u_C1R(const Rnx8u* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx8u* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_8u_C1IR(Rnx8u* pSrcDst, int srcDstStep, Rnx64f mVal, Rnx64f aVal, RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_8s_C1R(const Rnx8s* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx8s* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_8s_C1IR(Rnx8s* pSrcDst, int srcDstStep, Rnx64f mVal, Rnx64f aVal, RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_16u_C1R(const Rnx16u* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx16u* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_16u_C1IR(Rnx16u* pSrcDst, int srcDstStep, Rnx64f mVal, Rnx64f aVal, RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_16s_C1R(const Rnx16s* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx16s* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_16s_C1IR(Rnx16s* pSrcDst, int srcDstStep, Rnx64f mVal, Rnx64f aVal, RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_32s_C1R(const Rnx32s* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx32s* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_32s_C1IR(Rnx32s* pSrcDst, int srcDstStep, Rnx64f mVal, Rnx64f aVal, RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_32f_C1R(const Rnx32f* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx32f* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_32f_C1IR(Rnx32f* pSrcDst, int srcDstStep, Rnx64f mVal, Rnx64f aVal, RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_64f_C1R(const Rnx64f* pSrc, int srcStep, Rnx64f mVal, Rnx64f aVal, Rnx64f* pDst, int dstStep,
+    RnxiSize roiSize, int hint);
+RnxStatus rnxiScaleC_64f_C1IR(Rnx64f* pSrcDst, int srcDstStep, Rnx64f mVal, Rnx64f aVal, RnxiSize roiSize, int hint);
 
 
 /* Filling with a constant

@@ -162,6 +162,14 @@ enum {
   rnxBorderInMem = 240 /* all four sides lie in memory */
 };
 
+/* Scaling flag of a Fourier transform: which direction is divided by what, for transforms of N elements. */
+enum {
+  rnxFftDivideForward = 1, /* forward by N */
+  rnxFftDivideInverse = 2, /* inverse by N */
+  rnxFftDivideBySqrt = 4,  /* both by the square root of N */
+  rnxFftDivideNone = 8     /* neither */
+};
+
 /* Interpolation kind. */
 typedef enum RnxiInterpolationType {
   rnxNearest = 1,
@@ -191,6 +199,8 @@ typedef struct RnxLibraryVersion {
 
 typedef struct RnxiFilterBorderSpec RnxiFilterBorderSpec;
 typedef struct RnxiResizeSpec RnxiResizeSpec;
+typedef struct RnxiFFTSpec RnxiFFTSpec;
+typedef struct RnxiDFTSpec RnxiDFTSpec;
 
 #ifdef __cplusplus
 }

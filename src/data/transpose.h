@@ -14,6 +14,11 @@ struct Block {
   s64 end() const { return (rows.step < 0 ? 0 : rows.step * (height - 1)) + rows.rowBytes; }
 };
 
+// Whether a row of the block overlaps the next one.
+inline bool rowsOverlap(const Block& a) {
+  return a.height > 1 && (a.rows.step < 0 ? -a.rows.step : a.rows.step) < a.rows.rowBytes;
+}
+
 // Whether two blocks have a byte in common. Blocks side by side in one image have not.
 inline bool overlap(const Block& a, const Block& b) {
   const s64 distance = static_cast<s64>(b.rows.address - a.rows.address);
@@ -24,11 +29,13 @@ inline bool overlap(const Block& a, const Block& b) {
   return phase < a.rows.rowBytes || phase + b.rows.rowBytes > pitch;
 }
 
-template <class T, class L>
-bool transposeOverlaps(const T* src, s64 srcStep, const T* dst, s64 dstStep, RnxiSize roi) {
-  const Block from = {core::operand(src, srcStep, s64{roi.width} * L::kChannels), roi.height};
-  const Block to = {core::operand(dst, dstStep, s64{roi.height} * L::kChannels), roi.width};
-  return overlap(from, to);
+template <class L, class T>
+Block sourceBlock(const T* src, s64 step, RnxiSize roi) {
+  return {core::operand(src, step, s64{roi.width} * L::kChannels), roi.height};
+}
+template <class L, class T>
+Block transposedBlock(const T* dst, s64 step, RnxiSize roi) {
+  return {core::operand(dst, step, s64{roi.height} * L::kChannels), roi.width};
 }
 
 template <class T, class L>
@@ -43,9 +50,7 @@ RnxStatus transposeInPlace(T* srcDst, int step, RnxiSize roi) {
   if (core::anyNull(srcDst)) return rnxStatusNullPointer;
   if (core::empty(roi) || roi.width != roi.height) return rnxStatusBadSize;
 
-  const s64 pitch = step < 0 ? -s64{step} : s64{step};
-  const bool rowsOverlap = pitch < s64{roi.width} * L::kChannels * static_cast<s64>(sizeof(T));
-  transposeForms<T, L>(roi).inPlace(bytes(srcDst), step, roi.width, rowsOverlap);
+  transposeForms<T, L>(roi).inPlace(bytes(srcDst), step, roi.width, rowsOverlap(sourceBlock<L>(srcDst, step, roi)));
   return rnxStatusNoError;
 }
 
@@ -55,9 +60,10 @@ RnxStatus transpose(const T* src, int srcStep, T* dst, int dstStep, RnxiSize roi
   if (core::anyNull(src, dst)) return rnxStatusNullPointer;
   if (core::empty(roi)) return rnxStatusBadSize;
 
+  const Block from = sourceBlock<L>(src, srcStep, roi), to = transposedBlock<L>(dst, dstStep, roi);
   transposeForms<T, L>(roi).transpose({.width = roi.width,
                                        .height = roi.height,
-                                       .inOrder = transposeOverlaps<T, L>(src, srcStep, dst, dstStep, roi),
+                                       .inOrder = overlap(from, to) || rowsOverlap(to),
                                        .src = bytes(src),
                                        .srcStep = srcStep,
                                        .dst = bytes(dst),
@@ -79,11 +85,12 @@ RnxStatus mirrorDiagonal(const T* src, int srcStep, T* dst, int dstStep, RnxiSiz
   if (core::anyNull(src, dst)) return rnxStatusNullPointer;
   if (core::anyStepBelow1(srcStep, dstStep)) return rnxStatusBadStep;
   if (core::empty(roi)) return rnxStatusBadSize;
-  if (transposeOverlaps<T, L>(src, srcStep, dst, dstStep, roi)) return rnxStatusUnsupportedMode;
+  const Block from = sourceBlock<L>(src, srcStep, roi), to = transposedBlock<L>(dst, dstStep, roi);
+  if (overlap(from, to)) return rnxStatusUnsupportedMode;
 
   TransposeCall call = {.width = roi.width,
                         .height = roi.height,
-                        .inOrder = dstStep < s64{roi.height} * L::kChannels * static_cast<s64>(sizeof(T)),
+                        .inOrder = rowsOverlap(to),
                         .src = bytes(src),
                         .srcStep = srcStep,
                         .dst = bytes(dst),

@@ -8,11 +8,16 @@
 // The vector at the end and the halves overlap elements that are written anyway. That is right even in place, because
 // they are loaded and computed before anything of the row is written. No byte outside the row is touched, and body and
 // tail are the same code.
+//
+// Where source and destination elements differ in size a step is a block of several vectors (simd/block.h): as many
+// elements as fill one vector of the smallest type. The same picture holds, counted in elements.
 #pragma once
 
 #include <bit>
+#include <utility>
 
 #include "core/image.h"
+#include "simd/block.h"
 #include "simd/vec.h"
 
 namespace rnx::simd {
@@ -89,20 +94,57 @@ RNX_INLINE void storePart(T* p, int n, Vec<T> value) {
   }
 }
 
+// The same of a block: halves of a vector or more are whole vectors, smaller ones lie in the first vector.
+template <class V, class T>
+RNX_INLINE V loadPartOf(const T* p, int n) {
+  if constexpr (std::is_same_v<V, Vec<T>>) {
+    return loadPart(p, n);
+  } else {
+    V block;
+    const int half = halfOf(n);
+    if (V::kVectors == 1 || half < Vec<T>::kLanes) {
+      const Vec<T> both = loadPart(p, n);
+      for (Vec<T>& v : block.v) v = both;
+    } else {
+      const T* last = p + (n - half);
+      const int vectors = half / Vec<T>::kLanes;
+      for (int k = 0; k < V::kVectors; ++k) {
+        block.v[k] = Vec<T>::load((k / vectors % 2 ? last : p) + k % vectors * Vec<T>::kLanes);
+      }
+    }
+    return block;
+  }
+}
+
+template <class T, int N>
+RNX_INLINE void storePart(T* p, int n, const Block<T, N>& block) {
+  constexpr int kVectors = Block<T, N>::kVectors;
+  const int half = halfOf(n);
+  if (kVectors == 1 || half < Vec<T>::kLanes) return storePart(p, n, block.v[0]);
+  if constexpr (kVectors > 1) {
+    T* last = p + (n - half);
+    const int vectors = half / Vec<T>::kLanes;
+    for (int k = 0; k < vectors && vectors + k < kVectors; ++k) {
+      block.v[k].store(p + k * Vec<T>::kLanes);
+      block.v[vectors + k].store(last + k * Vec<T>::kLanes);
+    }
+  }
+}
+
 // ---- Sources ----
 
-// The rows of an image.
-template <class T>
+// The rows of an image, read by vectors or by blocks.
+template <class T, class V = Vec<T>>
 struct ImageSource {
   const T* row;
   s64 step;
 
   template <int K>  // which of the three vectors of a round
-  RNX_INLINE Vec<T> body(s64 i) const {
-    return Vec<T>::load(row + i);
+  RNX_INLINE V body(s64 i) const {
+    return V::load(row + i);
   }
-  RNX_INLINE Vec<T> at(s64 i) const { return Vec<T>::load(row + i); }
-  RNX_INLINE Vec<T> part(s64 i, int n) const { return loadPart(row + i, n); }
+  RNX_INLINE V at(s64 i) const { return V::load(row + i); }
+  RNX_INLINE V part(s64 i, int n) const { return loadPartOf<V>(row + i, n); }
   RNX_INLINE void beginBody(s64) {}
   RNX_INLINE void nextRow() { row = core::at(row, step); }
 };
@@ -155,7 +197,10 @@ private:
 template <class T>
 struct AllChannels {
   static constexpr bool kKeepsAlpha = false;
-  static RNX_INLINE Vec<T> merge(Vec<T> result, Vec<T>) { return result; }
+  template <class V>
+  static RNX_INLINE V merge(V result, V) {
+    return result;
+  }
 };
 
 // Four channels of which the fourth keeps what the destination holds.
@@ -168,6 +213,11 @@ struct ColorChannels {
     return mask;
   }
   static RNX_INLINE Vec<T> merge(Vec<T> result, Vec<T> old) { return select(colors(), result, old); }
+  template <int N>
+  static RNX_INLINE Block<T, N> merge(Block<T, N> result, Block<T, N> old) {
+    for (int k = 0; k < result.kVectors; ++k) result.v[k] = merge(result.v[k], old.v[k]);
+    return result;
+  }
 };
 
 // ---- Rows ----
@@ -175,16 +225,24 @@ struct ColorChannels {
 // Sources and functor are passed and kept by value, and nothing may take their address: the compiler would reload them
 // after every store. The functor is part of the code once per place that calls it, so there are few.
 
+// What the functor returns, a vector or a block of the destination's elements, and whether everything is one vector.
+template <class F, class... Sources>
+using ResultOf = decltype(std::declval<F&>()(std::declval<const Sources&>().at(0)...));
+template <class F, class... Sources>
+inline constexpr bool kOneVector = sizeof(ResultOf<F, Sources...>) == kBytes &&
+                                   ((sizeof(std::declval<const Sources&>().at(0)) == kBytes) && ...);
+
 // Elements [i, i + n) of a row, with n below a vector.
 template <class Channels, class T, class F, class... Sources>
 RNX_INLINE void partOfRow(T* dst, s64 i, int n, F& f, const Sources&... sources) {
-  const Vec<T> old = Channels::kKeepsAlpha ? loadPart(dst + i, n) : Vec<T>::zero();
+  using V = ResultOf<F, Sources...>;
+  const V old = Channels::kKeepsAlpha ? loadPartOf<V>(dst + i, n) : V::zero();
   storePart(dst + i, n, Channels::merge(f(sources.part(i, n)...), old));
 }
 
-template <class Channels, class T>
-RNX_INLINE Vec<T> oldVector(const T* p) {
-  return Channels::kKeepsAlpha ? Vec<T>::load(p) : Vec<T>::zero();
+template <class Channels, class V, class T>
+RNX_INLINE V oldVector(const T* p) {
+  return Channels::kKeepsAlpha ? V::load(p) : V::zero();
 }
 
 // Elements up to the first address that a store around the caches can take.
@@ -197,7 +255,8 @@ RNX_INLINE s64 elementsToAlignment(const T* p) {
 // Rows of at least a vector.
 template <class Channels, class T, class F, class... Sources>
 RNX_INLINE void longRows(const core::Rows& rows, T* dst, s64 dstStep, F& functor, Sources... sources) {
-  constexpr int L = Vec<T>::kLanes;
+  using V = ResultOf<F, Sources...>;
+  constexpr int L = V::kLanes;
   const auto placement = reinterpret_cast<uintptr_t>(dst) | static_cast<uintptr_t>(dstStep);
   const s64 n = rows.width, last = n - L;
   const bool stream =
@@ -206,8 +265,8 @@ RNX_INLINE void longRows(const core::Rows& rows, T* dst, s64 dstStep, F& functor
   F f = functor;
   for (s64 y = 0; y < rows.height; ++y) {
     // The vector at the end is computed before anything is written, for its sources may be the row itself.
-    Vec<T> tail = Vec<T>::zero();
-    if (ragged) tail = Channels::merge(f(sources.at(last)...), oldVector<Channels>(dst + last));
+    V tail = V::zero();
+    if (ragged) tail = Channels::merge(f(sources.at(last)...), oldVector<Channels, V>(dst + last));
     s64 i = 0;
     if (stream) {  // a first vector reaches past the boundary where the body begins; the sources are apart from the row
       f(sources.at(0)...).store(dst);
@@ -216,16 +275,16 @@ RNX_INLINE void longRows(const core::Rows& rows, T* dst, s64 dstStep, F& functor
     (sources.beginBody(i), ...);
     for (; i + 3 * L <= n; i += 3 * L) {
       T* d = dst + i;
-      const Vec<T> v0 = Channels::merge(f(sources.template body<0>(i)...), oldVector<Channels>(d));
-      const Vec<T> v1 = Channels::merge(f(sources.template body<1>(i + L)...), oldVector<Channels>(d + L));
-      const Vec<T> v2 = Channels::merge(f(sources.template body<2>(i + 2 * L)...), oldVector<Channels>(d + 2 * L));
+      const V v0 = Channels::merge(f(sources.template body<0>(i)...), oldVector<Channels, V>(d));
+      const V v1 = Channels::merge(f(sources.template body<1>(i + L)...), oldVector<Channels, V>(d + L));
+      const V v2 = Channels::merge(f(sources.template body<2>(i + 2 * L)...), oldVector<Channels, V>(d + 2 * L));
       if (stream) {
         v0.stream(d), v1.stream(d + L), v2.stream(d + 2 * L);
       } else {
         v0.store(d), v1.store(d + L), v2.store(d + 2 * L);
       }
     }
-    for (; i + L <= n; i += L) Channels::merge(f(sources.at(i)...), oldVector<Channels>(dst + i)).store(dst + i);
+    for (; i + L <= n; i += L) Channels::merge(f(sources.at(i)...), oldVector<Channels, V>(dst + i)).store(dst + i);
     if (ragged) tail.store(dst + last);
     dst = core::at(dst, dstStep);
     (sources.nextRow(), ...);
@@ -234,21 +293,47 @@ RNX_INLINE void longRows(const core::Rows& rows, T* dst, s64 dstStep, F& functor
   functor = f;
 }
 
-// Rows of less than a vector.
+// The same for blocks. The functor may be long: it is part of the code once, the block at the end being the loop's first.
 template <class Channels, class T, class F, class... Sources>
-RNX_INLINE void shortRows(const core::Rows& rows, T* dst, s64 dstStep, F& f, Sources... sources) {
+RNX_INLINE void longRowsOfBlocks(const core::Rows& rows, T* dst, s64 dstStep, F f, Sources... sources) {
+  using V = ResultOf<F, Sources...>;
+  constexpr int L = V::kLanes;
+  const auto placement = reinterpret_cast<uintptr_t>(dst) | static_cast<uintptr_t>(dstStep);
+  const s64 n = rows.width, last = n - L;
+  const bool stream =
+      rows.walk == core::Walk::kStream && !Channels::kKeepsAlpha && placement % sizeof(T) == 0 && n >= 4 * L;
   for (s64 y = 0; y < rows.height; ++y) {
-    partOfRow<Channels>(dst, 0, static_cast<int>(rows.width), f, sources...);
+    const s64 head = stream ? elementsToAlignment(dst) : n;  // where stores around the caches begin
+    bool atEnd = n % L != 0 || stream;
+    const bool ragged = atEnd;
+    V tail = V::zero();
+    for (s64 i = 0; atEnd || i <= last;) {
+      const s64 at = atEnd ? last : i;
+      const V v = Channels::merge(f(sources.at(at)...), oldVector<Channels, V>(dst + at));
+      if (atEnd) {
+        tail = v;
+        atEnd = false;
+      } else if (i >= head) {
+        v.stream(dst + i);
+        i += L;
+      } else {
+        v.store(dst + i);
+        i = stream ? head : i + L;
+      }
+    }
+    if (ragged) tail.store(dst + last);
     dst = core::at(dst, dstStep);
     (sources.nextRow(), ...);
   }
+  if (stream) _mm_sfence();
 }
 
+// Rows of less than a vector, or rows in order: by parts of n elements.
 template <class Channels, class T, class F, class... Sources>
-RNX_INLINE void rowsInOrder(const core::Rows& rows, T* dst, s64 dstStep, F& f, Sources... sources) {
+RNX_INLINE void rowsByParts(const core::Rows& rows, int n, T* dst, s64 dstStep, F& f, Sources... sources) {
   for (s64 y = 0; y < rows.height; ++y) {
-    for (s64 i = 0; i < rows.width; ++i) {
-      if (!Channels::kKeepsAlpha || i % 4 != 3) partOfRow<Channels>(dst, i, 1, f, sources...);
+    for (s64 i = 0; i < rows.width; i += n) {
+      if (!Channels::kKeepsAlpha || n > 1 || i % 4 != 3) partOfRow<Channels>(dst, i, n, f, sources...);
     }
     dst = core::at(dst, dstStep);
     (sources.nextRow(), ...);
@@ -258,12 +343,13 @@ RNX_INLINE void rowsInOrder(const core::Rows& rows, T* dst, s64 dstStep, F& f, S
 // Calls f with one vector of each source and stores what it returns, over all rows.
 template <class Channels, class T, class F, class... Sources>
 RNX_INLINE void forEachElement(const core::Rows& rows, T* dst, s64 dstStep, F& f, const Sources&... sources) {
-  if (rows.walk == core::Walk::kInOrder) {
-    rowsInOrder<Channels>(rows, dst, dstStep, f, sources...);
-  } else if (rows.width < Vec<T>::kLanes) {
-    shortRows<Channels>(rows, dst, dstStep, f, sources...);
-  } else {
+  const bool inOrder = rows.walk == core::Walk::kInOrder;
+  if (inOrder || rows.width < ResultOf<F, Sources...>::kLanes) {
+    rowsByParts<Channels>(rows, inOrder ? 1 : static_cast<int>(rows.width), dst, dstStep, f, sources...);
+  } else if constexpr (kOneVector<F, Sources...>) {
     longRows<Channels>(rows, dst, dstStep, f, sources...);
+  } else {
+    longRowsOfBlocks<Channels>(rows, dst, dstStep, f, sources...);
   }
 }
 

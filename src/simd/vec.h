@@ -79,6 +79,14 @@ template <class T> RNX_INLINE Vec<T> operator^(Vec<T> a, Vec<T> b) { return {a.r
 template <class T> RNX_INLINE Vec<T> operator~(Vec<T> a) { return {~a.raw}; }
 // clang-format on
 
+// The same vector, in a register from here on. Compilers load a vector again for each of its uses, which is dear where
+// loads are what limits a loop.
+template <class T>
+RNX_INLINE Vec<T> inRegister(Vec<T> v) {
+  __asm__("" : "+x"(v.raw));
+  return v;
+}
+
 // The integer type as wide as T: comparisons give all ones or zeros of it.
 template <int Size>
 struct MaskOf;
@@ -125,6 +133,8 @@ RNX_INLINE bool anySet(Vec<T> mask) {
 // clang-format off
 RNX_INLINE Vec<u8> min(Vec<u8> a, Vec<u8> b) { return Vec<u8>::of(RNX_MM(min_epu8)(a.bits(), b.bits())); }
 RNX_INLINE Vec<u8> max(Vec<u8> a, Vec<u8> b) { return Vec<u8>::of(RNX_MM(max_epu8)(a.bits(), b.bits())); }
+RNX_INLINE Vec<s8> min(Vec<s8> a, Vec<s8> b) { return Vec<s8>::of(RNX_MM(min_epi8)(a.bits(), b.bits())); }
+RNX_INLINE Vec<s8> max(Vec<s8> a, Vec<s8> b) { return Vec<s8>::of(RNX_MM(max_epi8)(a.bits(), b.bits())); }
 RNX_INLINE Vec<u16> min(Vec<u16> a, Vec<u16> b) { return Vec<u16>::of(RNX_MM(min_epu16)(a.bits(), b.bits())); }
 RNX_INLINE Vec<u16> max(Vec<u16> a, Vec<u16> b) { return Vec<u16>::of(RNX_MM(max_epu16)(a.bits(), b.bits())); }
 RNX_INLINE Vec<s16> min(Vec<s16> a, Vec<s16> b) { return Vec<s16>::of(RNX_MM(min_epi16)(a.bits(), b.bits())); }

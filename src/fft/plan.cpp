@@ -1,0 +1,369 @@
+// Planning of the transforms: radices, twiddle factors, chirps. The same walk measures a spec and writes it.
+#include "fft/plan.h"
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+
+#include "core/spec.h"
+
+namespace rnx::fft {
+namespace {
+
+constexpr s64 alignUp(s64 bytes) { return core::roundUp(bytes, core::kSpecAlignment); }
+
+// ---- Roots of unity ----
+
+struct Root {
+  f64 re, im;
+};
+
+// exp(-2 pi i k / n), with the angle reduced to an eighth of the circle in integers: good to the last bit or so of
+// double precision, so that storing it as single rounds correctly but for rare ties.
+Root rootOf(s64 k, s64 n) {
+  k %= n;
+  const s64 octant = 8 * k / n, rest = 8 * k - octant * n;
+  const s64 reduced = octant % 2 == 1 ? n - rest : rest;
+  const f64 angle = 0.78539816339744830962 * static_cast<f64>(reduced) / static_cast<f64>(n);
+  const f64 c = std::cos(angle), s = std::sin(angle);
+  const bool swapped = (octant + 1) % 4 >= 2;
+  const f64 a = swapped ? s : c, b = swapped ? c : s;
+  return {octant >= 2 && octant < 6 ? -a : a, octant >= 4 ? b : -b};
+}
+
+Root operator*(Root a, Root b) { return {a.re * b.re - a.im * b.im, a.re * b.im + a.im * b.re}; }
+
+// ---- Choice of radices ----
+
+struct Radix {
+  s32 points;
+  f32 cost;  // of one pass, per element; measured
+};
+
+constexpr Radix kRadices[] = {{13, 3.5f}, {11, 3.0f}, {8, 1.25f}, {7, 1.9f}, {6, 1.38f},
+                              {5, 1.3f},  {4, 0.84f}, {3, 0.87f}, {2, 0.57f}};
+
+struct Factors {
+  f32 cost = INFINITY;
+  int count = 0;
+  s32 radix[kMaxPasses];
+};
+
+// The cheapest sequence of non-increasing radices; an infinite cost where a prime factor is not among them.
+void findFactors(s64 rest, size_t first, f32 cost, Factors& path, Factors& best) {
+  if (rest == 1) {
+    if (cost < best.cost) {
+      best = path;
+      best.cost = cost;
+    }
+    return;
+  }
+  for (size_t i = first; i < std::size(kRadices); ++i) {
+    const Radix r = kRadices[i];
+    if (rest % r.points != 0 || cost + r.cost >= best.cost) continue;
+    path.radix[path.count++] = r.points;
+    findFactors(rest / r.points, i, cost + r.cost, path, best);
+    --path.count;
+  }
+}
+
+Factors factorsOf(s64 n) {
+  Factors path, best;
+  findFactors(n, 0, 0, path, best);
+  return best;
+}
+
+// The size of a convolution of at least `least` points that costs least, among 2^k times a few odd numbers.
+s64 convolutionSize(s64 least) {
+  s64 bestSize = 0;
+  f64 bestCost = INFINITY;
+  for (const s64 odd : {1, 3, 5, 9, 15, 25, 27, 45, 75, 81, 125}) {
+    s64 size = odd;
+    while (size < least) size *= 2;
+    const f64 cost = static_cast<f64>(size) * static_cast<f64>(factorsOf(size).cost + 1);
+    if (cost < bestCost) {
+      bestCost = cost;
+      bestSize = size;
+    }
+  }
+  return bestSize;
+}
+
+// ---- The block ----
+
+// Tables are reserved one after the other behind the record; without a base they are only counted.
+class Block {
+public:
+  explicit Block(char* base) : base_(base), used_(alignUp(sizeof(Spec))) {}
+
+  bool writes() const { return base_ != nullptr; }
+  s64 used() const { return used_; }
+  u32 reserve(s64 bytes) {
+    const s64 offset = used_;
+    used_ += alignUp(bytes);
+    return static_cast<u32>(offset);
+  }
+  template <class T>
+  T* table(u32 offset) const {
+    return reinterpret_cast<T*>(base_ + offset);
+  }
+
+private:
+  char* base_;
+  s64 used_;
+};
+
+void store(fc32* p, Root r) { *p = {static_cast<f32>(r.re), static_cast<f32>(r.im)}; }
+
+void writeTwiddles(const Plan& plan, Block& block) {
+  s64 blockSize = plan.size;
+  for (int pass = 0; pass < plan.passCount; ++pass) {
+    const s64 radix = plan.radix[pass], butterflies = blockSize / radix;
+    fc32* out = block.table<fc32>(plan.twiddles[pass]);
+    if (butterflies > 1) {
+      for (s64 j = 0; j < butterflies; ++j) {
+        for (s64 q = 1; q < radix; ++q) store(out++, rootOf(j * q, blockSize));
+      }
+    }
+    blockSize = butterflies;
+  }
+}
+
+// Output k of a block of m stands in part k mod radix, at the place of output k / radix of that part.
+s64 positionOf(const Plan& plan, s64 k) {
+  s64 position = 0, part = plan.size;
+  for (int pass = 0; pass < plan.passCount; ++pass) {
+    part /= plan.radix[pass];
+    position += k % plan.radix[pass] * part;
+    k /= plan.radix[pass];
+  }
+  return position;
+}
+
+// The passes of the plan, in double precision and by the definition; roots[k] = exp(-2 pi i k / size).
+void transformExactly(const Plan& plan, const Root* roots, Root* x) {
+  s64 blockSize = plan.size;
+  for (int pass = 0; pass < plan.passCount; ++pass) {
+    const s64 radix = plan.radix[pass], part = blockSize / radix, turns = plan.size / blockSize;
+    for (s64 i = 0; i < plan.size; ++i) {
+      if (i % blockSize >= part) continue;  // i is the first point of a butterfly
+      Root in[13];
+      for (s64 r = 0; r < radix; ++r) in[r] = x[i + r * part];
+      for (s64 q = 0; q < radix; ++q) {
+        Root sum = {0, 0};
+        for (s64 r = 0; r < radix; ++r) {
+          const Root term = in[r] * roots[r * q % radix * (plan.size / radix)];
+          sum = {sum.re + term.re, sum.im + term.im};
+        }
+        x[i + q * part] = sum * roots[i % blockSize * q * turns];
+      }
+    }
+    blockSize = part;
+  }
+}
+
+void writeChirp(const Plan& plan, Block& block, void* init) {
+  const s64 n = plan.length, size = plan.size;
+  Root* x = static_cast<Root*>(init);
+  Root* roots = x + size;
+  for (s64 k = 0; k < size; ++k) {
+    x[k] = {0, 0};
+    roots[k] = rootOf(k, size);
+  }
+  fc32* chirp = block.table<fc32>(plan.chirp);
+  for (s64 j = 0; j < n; ++j) {
+    const Root c = rootOf(j * j % (2 * n), 2 * n);
+    store(chirp + j, c);
+    x[j] = {c.re, -c.im};
+    if (j > 0) x[size - j] = x[j];
+  }
+  transformExactly(plan, roots, x);
+  fc32* filter = block.table<fc32>(plan.filter);
+  const f64 scale = 1.0 / static_cast<f64>(size);  // of the way back
+  for (s64 k = 0; k < size; ++k) store(filter + k, {x[k].re * scale, x[k].im * scale});
+}
+
+s64 initBytes(const Plan& plan) { return plan.chirp == 0 ? 0 : 2 * s64{sizeof(Root)} * plan.size; }
+
+Plan makePlan(s64 length, Block& block, void* init) {
+  Plan plan = {};
+  Factors factors = factorsOf(length);
+  const bool isSmooth = factors.cost < INFINITY;
+  const s64 size = isSmooth ? length : convolutionSize(2 * length - 1);
+  if (!isSmooth) factors = factorsOf(size);
+
+  plan.length = static_cast<s32>(length);
+  plan.size = static_cast<s32>(size);
+  plan.passCount = factors.count;
+  s64 blockSize = size;
+  for (int pass = 0; pass < factors.count; ++pass) {
+    const s64 radix = factors.radix[pass];
+    plan.radix[pass] = factors.radix[pass];
+    blockSize /= radix;
+    plan.twiddles[pass] = block.reserve(blockSize > 1 ? blockSize * (radix - 1) * s64{sizeof(fc32)} : 0);
+  }
+  plan.positions = block.reserve((length + 1) * s64{sizeof(s32)});
+  if (!isSmooth) {
+    plan.chirp = block.reserve(length * s64{sizeof(fc32)});
+    plan.filter = block.reserve(size * s64{sizeof(fc32)});
+  }
+  if (block.writes()) {
+    writeTwiddles(plan, block);
+    // The way back of a convolution restores the natural order.
+    s32* positions = block.table<s32>(plan.positions);
+    for (s64 k = 0; k < length; ++k) positions[k] = static_cast<s32>(isSmooth ? positionOf(plan, k) : k);
+    positions[length] = positions[0];
+    if (!isSmooth) writeChirp(plan, block, init);
+  }
+  return plan;
+}
+
+// ---- Scaling ----
+
+enum Flag { kDivideForward = 1, kDivideInverse = 2, kDivideBySqrt = 4, kDivideNone = 8 };
+
+f32 scaleOf(s32 flag, s32 dividing, s32 n) {
+  if (flag == kDivideBySqrt) return static_cast<f32>(1.0 / std::sqrt(static_cast<f64>(n)));
+  return flag == dividing ? 1.0f / static_cast<f32>(n) : 1.0f;
+}
+
+// ---- Shapes ----
+
+// Room for the widest vectors, whichever will run.
+constexpr s64 kMostLanes = 8;
+constexpr s64 kComplexBytes = sizeof(fc32);
+
+// A length of one row that is worth a grid: the largest divisor up to its square root, when both are at least a vector
+// long and have small prime factors only; else 1.
+s64 lineRows(s64 n) {
+  constexpr s64 kWorthAGrid = 1024;
+  if (n < kWorthAGrid || factorsOf(n).cost == INFINITY) return 1;
+  s64 divisor = static_cast<s64>(std::sqrt(static_cast<f64>(n)));
+  while (n % divisor != 0) --divisor;
+  return divisor >= 2 * kMostLanes ? divisor : 1;
+}
+
+s64 sizeOfPasses(s64 length) { return factorsOf(length).cost < INFINITY ? length : convolutionSize(2 * length - 1); }
+
+s64 imageBytes(const Spec& spec) {
+  return s64{spec.width} * spec.height * (spec.isReal != 0 ? kComplexBytes / 2 : kComplexBytes);
+}
+
+void shapeLine(Spec& spec) {
+  const s64 length = std::max(spec.width, spec.height);
+  const bool halved = spec.isReal != 0 && length % 2 == 0;
+  const s64 points = halved ? length / 2 : length;
+  spec.lineBytes = halved ? alignUp(points * kComplexBytes) : 0;
+  const s64 rows = lineRows(points);
+  if (rows == 1 || (spec.isReal != 0 && !halved)) {
+    spec.shape = Shape::kShort;
+    spec.gridWidth = static_cast<s32>(points);
+    spec.gridHeight = 1;
+    spec.stripBytes = 0;
+    spec.tileBytes = alignUp(sizeOfPasses(points) * kComplexBytes);
+    return;
+  }
+  // Columns of the grid are transformed first. They become the rows of the result.
+  spec.shape = Shape::kLine;
+  spec.gridWidth = static_cast<s32>(rows);
+  spec.gridHeight = static_cast<s32>(points / rows);
+  const s64 paddedWidth = (rows + kMostLanes - 1) / kMostLanes * kMostLanes;
+  spec.stripBytes = alignUp(paddedWidth * spec.gridHeight * kComplexBytes);
+  spec.tileBytes = alignUp(kMostLanes * std::max(spec.gridWidth, spec.gridHeight) * kComplexBytes);
+}
+
+// Vectors want rows and columns enough to fill them, and work memory: where that would pass twice the image and two
+// rows, one row or column at a time is the thriftier way.
+void shapeImage(Spec& spec) {
+  const s64 width = spec.width, height = spec.height;
+  const bool isReal = spec.isReal != 0;
+  spec.gridWidth = static_cast<s32>(isReal ? (width + 1) / 2 : width);
+  spec.gridHeight = static_cast<s32>(height);
+  const s64 longest = std::max(sizeOfPasses(width), sizeOfPasses(height));
+  const s64 paddedWidth = (spec.gridWidth + kMostLanes - 1) / kMostLanes * kMostLanes;
+  spec.stripBytes = alignUp(paddedWidth * height * kComplexBytes);
+  spec.tileBytes = alignUp(kMostLanes * longest * kComplexBytes);
+  const s64 need = spec.stripBytes + spec.tileBytes, limit = 2 * imageBytes(spec) + 2 * imageBytes(spec) / height;
+  const s64 leastRows = isReal ? 2 * kMostLanes : kMostLanes;
+  spec.shape = Shape::kGrid;
+  if (height >= leastRows && spec.gridWidth >= kMostLanes && need <= std::max(limit, kStackWork)) return;
+  spec.shape = Shape::kNarrow;
+  spec.stripBytes = alignUp(spec.gridWidth * height * kComplexBytes);
+  spec.tileBytes = alignUp(longest * kComplexBytes);
+}
+
+// What the caller provides: nothing where the stack has room.
+s64 workBytes(const Spec& spec) {
+  const s64 bytes = spec.stripBytes + spec.lineBytes + spec.tileBytes;
+  return bytes <= kStackWork ? 0 : bytes;
+}
+
+// ---- The whole spec ----
+
+void writeLineTwiddles(const Spec& spec, Block& block) {
+  const s64 length = s64{spec.gridWidth} * spec.gridHeight;
+  fc32* out = block.table<fc32>(spec.lineTwiddles);
+  for (s64 k = 0; k < spec.gridWidth; ++k) {
+    for (s64 n = 0; n < spec.gridHeight; ++n) store(out++, rootOf(k * n, length));
+  }
+}
+
+s64 fill(const Request& request, Spec& spec, Block& block, void* init) {
+  const auto [width, height] = request.size;
+  spec = {};
+  spec.tag = request.tag;
+  spec.orderX = request.orderX;
+  spec.orderY = request.orderY;
+  spec.hint = request.hint;
+  spec.width = width;
+  spec.height = height;
+  spec.isReal = request.isReal ? 1 : 0;
+  spec.forwardX = scaleOf(request.flag, kDivideForward, width);
+  spec.forwardY = scaleOf(request.flag, kDivideForward, height);
+  spec.inverseX = scaleOf(request.flag, kDivideInverse, width);
+  spec.inverseY = scaleOf(request.flag, kDivideInverse, height);
+
+  const bool isLine = width == 1 || height == 1;
+  if (isLine) {
+    shapeLine(spec);
+  } else {
+    shapeImage(spec);
+  }
+  spec.workSize = static_cast<s32>(std::min<s64>(workBytes(spec), INT32_MAX));
+
+  const s32 rowLength = isLine ? spec.gridWidth : width, columnLength = spec.gridHeight;
+  spec.plans[0] = makePlan(rowLength, block, init);
+  s64 initSize = initBytes(spec.plans[0]);
+  if (columnLength != rowLength) {
+    spec.columnPlan = 1;
+    spec.plans[1] = makePlan(columnLength, block, init);
+    initSize = std::max(initSize, initBytes(spec.plans[1]));
+  }
+  if (spec.shape == Shape::kLine) {
+    spec.lineTwiddles = block.reserve(s64{spec.gridWidth} * spec.gridHeight * kComplexBytes);
+    if (block.writes()) writeLineTwiddles(spec, block);
+  }
+  if (isLine && request.isReal && std::max(width, height) % 2 == 0) {
+    const s64 length = std::max(width, height), count = length / 4 + 1;
+    spec.halfTwiddles = block.reserve(count * kComplexBytes);
+    fc32* out = block.writes() ? block.table<fc32>(spec.halfTwiddles) : nullptr;
+    for (s64 k = 0; out != nullptr && k < count; ++k) store(out + k, rootOf(k, length));
+  }
+  return initSize;
+}
+
+}  // namespace
+
+Sizes measureSpec(const Request& request) {
+  Block block(nullptr);
+  Spec spec;
+  const s64 init = fill(request, spec, block, nullptr);
+  return {block.used(), init, workBytes(spec)};
+}
+
+void writeSpec(const Request& request, char* memory, void* init) {
+  Block block(memory);
+  fill(request, *reinterpret_cast<Spec*>(memory), block, init);
+}
+
+}  // namespace rnx::fft

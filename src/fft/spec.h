@@ -1,0 +1,61 @@
+// What a transform spec holds. A spec is one block of the caller's memory: this record, then the tables of its plans at
+// offsets from the record.
+#pragma once
+
+#include "core/types.h"
+
+namespace rnx::fft {
+
+inline constexpr int kMaxPasses = 30;  // radix 2 alone reaches 2^28
+
+// The plan of one-dimensional transforms of one length. A length whose prime factors are all small is transformed by
+// passes of small radices. Any other becomes a circular convolution with a chirp, whose size is chosen freely:
+//   X_k = c_k * sum over j of (x_j c_j) * conj(c_(k-j)),   c_j = exp(-pi i j^2 / length)
+struct Plan {
+  s32 length;
+  s32 size;  // of the passes: length, or at least 2 length - 1
+  s32 passCount;
+  s32 radix[kMaxPasses];
+  u32 twiddles[kMaxPasses];  // offset per pass: factors of outputs 1 ... radix - 1, for each butterfly of a block
+  u32 positions;             // s32 for outputs 0 ... length, where the passes leave them; the last is the first again
+  u32 chirp;                 // c_j, or 0 where the length needs none
+  u32 filter;                // transform of the conjugate chirp over size, in the order of the passes
+};
+
+// How the image is walked.
+enum class Shape : s32 {
+  kGrid,    // rows, then columns, as many at a time as a vector has lanes
+  kNarrow,  // the same, one at a time: an image of few rows or columns
+  kLine,    // one row or column of composite length, as the columns and rows of a grid
+  kShort    // one row or column at a time
+};
+
+struct Spec {
+  s32 tag;
+  s32 orderX, orderY;  // of power-of-two transforms
+  s32 hint;
+  s32 workSize;  // bytes of work memory, 0 when the stack serves
+  s32 width, height;
+  s32 isReal;
+  Shape shape;
+  // The grid of complex numbers that is transformed: the image, or for real images columns 0 ... (width - 1) / 2.
+  s32 gridWidth, gridHeight;
+  f32 forwardX, forwardY, inverseX, inverseY;  // factors of scaling
+  s32 columnPlan;                              // 0 when the row plan serves both axes, else 1
+  Plan plans[2];
+  u32 lineTwiddles;  // kLine: exp(-2 pi i k n / length) in row k and column n of the grid
+  u32 halfTwiddles;  // real lines of even length: exp(-2 pi i k / length) for k up to a quarter
+  // Work memory: the grid between the axes, in strips; the half-length transform of a real line; one tile.
+  s64 stripBytes, lineBytes, tileBytes;
+
+  template <class T>
+  const T* table(u32 offset) const {
+    return reinterpret_cast<const T*>(reinterpret_cast<const char*>(this) + offset);
+  }
+};
+
+enum Tag : s32 { kTagFftComplex = 27, kTagFftReal = 28, kTagDftComplex = 38, kTagDftReal = 39 };
+
+inline constexpr s64 kStackWork = 16384;  // transforms that need no more take it from the stack
+
+}  // namespace rnx::fft

@@ -1,0 +1,210 @@
+#include "api/violations.h"
+
+#include <algorithm>
+#include <climits>
+#include <memory>
+
+namespace rnx::test {
+namespace {
+
+using Violations = std::vector<Violation>;
+
+void appendNumbers(Violations& list, const Parameter& p, std::initializer_list<s64> values) {
+  for (s64 value : values) {
+    list.push_back({std::string(p.name) + " = " + std::to_string(value),
+                    [name = p.name, value](Call& call) { call.set(name, value); }});
+  }
+}
+
+Violations numbersOf(const Signature& s, std::string_view role, std::initializer_list<s64> values) {
+  Violations list;
+  for (const Parameter& p : s.parameters()) {
+    if (p.role == role) appendNumbers(list, p, values);
+  }
+  return list;
+}
+
+// An array of ints in place of a role's pointer.
+Violation arrayOf(std::string_view role, std::array<int, 4> values, const std::string& what) {
+  return {what, [role, values = std::make_shared<std::array<int, 4>>(values)](Call& call) {
+            call.setAt(call.indexOfRole(role), values->data());
+          }};
+}
+
+// ---- Pointers ----
+
+// Checks that take the pointer of one role out of the common check.
+struct Claim {
+  std::string_view token, role;
+};
+constexpr Claim kClaims[] = {{"value_null", "value"}, {"order_null", "order"}};
+
+bool isClaimed(const Signature& s, std::string_view role) {
+  return std::ranges::any_of(kClaims, [&](const Claim& c) { return c.role == role && s.checksFor(c.token); });
+}
+
+Violation nullOf(const Parameter& p) {
+  return {std::string(p.name) + " null", [name = p.name](Call& call) { call.set(name, nullptr); }};
+}
+
+Violations nulls(const Signature& s) {
+  Violations list;
+  for (const Parameter& p : s.parameters()) {
+    if (!p.isPointer() || isClaimed(s, p.role)) continue;
+    list.push_back(nullOf(p));
+    if (!p.type.ends_with("* const*")) continue;
+    const int planes = s.layout.find('4') == std::string_view::npos ? 3 : 4;
+    for (int plane = 0; plane < planes; ++plane) {
+      list.push_back({std::string(p.name) + "[" + std::to_string(plane) + "] null", [name = p.name, plane](Call& call) {
+                        static thread_local std::array<void*, 4> copy;
+                        const size_t index = call.indexOf(name);
+                        std::memcpy(copy.data(), reinterpret_cast<void*>(call.integerAt(index)), sizeof copy);
+                        copy[static_cast<size_t>(plane)] = nullptr;
+                        call.setAt(index, copy.data());
+                      }});
+    }
+  }
+  return list;
+}
+
+template <const Claim& kClaim>
+Violations nullOfClaim(const Signature& s) {
+  Violations list;
+  for (const Parameter& p : s.parameters()) {
+    if (p.role == kClaim.role && p.isPointer()) list.push_back(nullOf(p));
+  }
+  return list;
+}
+
+// ---- Sizes and steps ----
+
+void appendRoi(Violations& list, s64 width, s64 height) {
+  list.push_back({"roi " + std::to_string(width) + " x " + std::to_string(height),
+                  [width, height](Call& call) { call.roi(width, height); }});
+}
+
+Violations sizes(const Signature&) {
+  constexpr s64 n = ValidCall::kSize;
+  Violations list;
+  for (s64 bad : {s64{0}, s64{-1}, s64{INT_MIN}}) {
+    appendRoi(list, bad, n);
+    appendRoi(list, n, bad);
+  }
+  appendRoi(list, 0, 0);
+  appendRoi(list, -n, -n);
+  appendRoi(list, 0, INT_MAX);
+  return list;
+}
+
+Violations steps(const Signature& s) {
+  Violations list;
+  for (const Parameter& p : s.parameters()) {
+    if (p.isStep()) appendNumbers(list, p, {0, -1, -ValidCall::kStep, INT_MIN + 2});
+  }
+  return list;
+}
+
+Violations zeroSteps(const Signature& s) {
+  Violations list;
+  for (const Parameter& p : s.parameters()) {
+    if (p.isStep()) appendNumbers(list, p, {0});
+  }
+  return list;
+}
+
+Violations squareSizes(const Signature& s) {
+  Violations list = sizes(s);
+  if (s.has("srcdst")) appendRoi(list, 4, 5), appendRoi(list, 5, 4);
+  return list;
+}
+
+Violations borderSizes(const Signature& s) {
+  Violations list;
+  for (const char* role : {"srcroi", "dstroi"}) {
+    for (RnxiSizeL size : {RnxiSizeL{0, 5}, {5, 0}, {-1, 5}, {5, INT_MIN}}) {
+      list.push_back({std::string(role) + " too small", [role, size = std::make_shared<RnxiSizeL>(size)](Call& call) {
+                        const size_t index = call.indexOfRole(role);
+                        const RnxiSize plain = {static_cast<int>(size->width), static_cast<int>(size->height)};
+                        if (call.signature().isLong) {
+                          call.setAt(index, size.get());
+                        } else {
+                          call.setAt(index, plain);
+                        }
+                      }});
+    }
+  }
+  // kLarge - kSize is the most that fits.
+  for (const char* role : {"top", "left"}) {
+    for (Violation& v : numbersOf(s, role, {-1, INT_MIN, ValidCall::kLarge - ValidCall::kSize + 1, INT_MAX})) {
+      list.push_back(std::move(v));
+    }
+  }
+  return list;
+}
+
+// ---- Parameters of the operations ----
+
+// One zero among the constants of the channels that are used.
+Violations zeroDivisors(const Signature& s) {
+  if (s.layout == "C1") return numbersOf(s, "value", {0});
+  Violations list;
+  const int used = s.hasAlpha() ? 3 : s.channels();
+  for (int channel = 0; channel < used; ++channel) {
+    withType(s.source(), [&](auto zero) {
+      using T = decltype(zero);
+      if constexpr (std::is_arithmetic_v<T>) {
+        for (T none : std::is_floating_point_v<T> ? std::vector<T>{T(0), -T(0)} : std::vector<T>{T(0)}) {
+          auto values = std::make_shared<std::array<T, 4>>(std::array<T, 4>{1, 1, 1, 1});
+          (*values)[static_cast<size_t>(channel)] = none;
+          list.push_back({"value[" + std::to_string(channel) + "] = 0",
+                          [values](Call& call) { call.role("value", values->data()); }});
+        }
+      }
+    });
+  }
+  return list;
+}
+
+Violations roundModes(const Signature& s) { return numbersOf(s, "round", {-1, 3, INT_MIN, INT_MAX}); }
+
+Violations mirrorAxes(const Signature& s) { return numbersOf(s, "flip", {-1, 5, INT_MIN, INT_MAX}); }
+
+Violations channelOrders(const Signature& s) {
+  Violations list;
+  const bool toFour = s.layout == "C3C4", four = s.layout == "C4" || s.layout == "C4C3";
+  const size_t entries = s.layout == "C4" || toFour ? 4 : 3;
+  for (size_t i = 0; i < entries; ++i) {
+    for (int bad : {-1, INT_MIN, four ? 4 : 3, INT_MAX}) {
+      if (toFour && bad >= 0) continue;
+      std::array<int, 4> order = {0, 1, 2, 0};
+      order[i] = bad;
+      list.push_back(arrayOf("order", order, "dstOrder[" + std::to_string(i) + "] = " + std::to_string(bad)));
+    }
+  }
+  return list;
+}
+
+constexpr CheckRule kRules[] = {
+    {"null", -8, nulls},
+    {"size", -6, sizes},
+    {"step", -16, steps},
+    {"divisor", -10, zeroDivisors},
+    {"round", -213, roundModes},
+    {"flip", -22, mirrorAxes},
+    {"square", -6, squareSizes},
+    {"border", -6, borderSizes},
+    {"value_null", -8, nullOfClaim<kClaims[0]>},
+    {"images_null", -8, nulls},
+    {"order_null", -8, nullOfClaim<kClaims[1]>},
+    {"step_zero", -16, zeroSteps},
+    {"order", -60, channelOrders},
+};
+
+}  // namespace
+
+const CheckRule* checkRule(std::string_view token) {
+  const auto found = std::ranges::find(kRules, token, &CheckRule::token);
+  return found == std::end(kRules) ? nullptr : found;
+}
+
+}  // namespace rnx::test

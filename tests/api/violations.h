@@ -1,0 +1,27 @@
+// How to break each check of the table, and the status that must come of it.
+#pragma once
+
+#include <functional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "api/valid_call.h"
+
+namespace rnx::test {
+
+struct Violation {
+  std::string what;
+  std::function<void(Call&)> apply;
+};
+
+struct CheckRule {
+  std::string_view token;
+  RnxStatus status;
+  std::vector<Violation> (*violations)(const Signature&);  // null: the family's own suite tests it
+};
+
+// Null where no rule is known.
+const CheckRule* checkRule(std::string_view token);
+
+}  // namespace rnx::test
