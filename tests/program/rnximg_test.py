@@ -310,6 +310,40 @@ class Geometry(ProgramTest):
         self.assertEqual(self.read("out.png"), convert(rows, lambda p: (200 if p[0] > 99 else 3,)))
 
 
+class Resize(ProgramTest):
+    def resized(self, rows, *words):
+        self.write("in.png", rows)
+        self.process("in.png", "-o", "out.png", *words)
+        return self.read("out.png")
+
+    def test_nearest_repeats_and_drops_pixels(self):
+        for channels in (1, 3, 4):
+            rows = ramp(channels, 7, 5)
+            twice = [[p for p in row for _ in range(2)] for row in rows for _ in range(2)]
+            with self.subTest(channels):
+                self.assertEqual(self.resized(rows, "resize", "14x10", "nearest"), twice)
+                self.assertEqual(self.resized(twice, "scale", "0.5", "nearest"), rows)
+
+    def test_linear_keeps_a_size_and_mixes_quarters(self):
+        rows = ramp(3, 9, 4)
+        self.assertEqual(self.resized(rows, "scale", "1"), rows)
+        # centres at -0.25, 0.25, 0.75, 1.25
+        self.assertEqual(self.resized([[(0,), (200,)]] * 2, "resize", "4x2"), [[(0,), (50,), (150,), (200,)]] * 2)
+
+    def test_threads_make_no_difference(self):
+        rows = ramp(3, 50, 41)
+        whole = self.resized(rows, "resize", "73x64")
+        for threads in ("2", "7", "64"):
+            self.assertEqual(self.resized(rows, "--threads", threads, "resize", "73x64"), whole, threads)
+
+    def test_bad_sizes(self):
+        self.write("in.png", ramp(1))
+        for words in (("resize", "7"), ("resize", "0x5"), ("resize", "5x5x5"), ("resize", "5x40000"), ("scale", "0"),
+                      ("scale", "3000"), ("resize", "5x5", "cubic"), ("--threads", "0", "scale", "1")):  # fmt: skip
+            with self.subTest(words):
+                self.assertEqual(self.run_program("in.png", "-o", "out.png", *words).returncode, 2)
+
+
 class Failures(ProgramTest):
     def setUp(self):
         super().setUp()
