@@ -151,7 +151,7 @@ RnxStatus rnxiFFTInit_R_32f(int orderX, int orderY, int flag, int hint, RnxiFFTS
 
    Checks, in this order
      rnxStatusNullPointer: a result pointer is null; other errors set all three results to 0
-     rnxStatusBadSize: ROI width or height below 1
+     rnxStatusBadSize: width or height below 1
      rnxStatusBadFftFlag: flag not 1, 2, 4 or 8
      rnxStatusSizeOverflow: a size passes 0x7fffffff bytes */
 
@@ -171,7 +171,7 @@ RnxStatus rnxiDFTGetSize_C_32fc(RnxiSize roiSize, int flag, int hint, int* pSpec
 
    Checks, in this order
      rnxStatusNullPointer: a result pointer is null; other errors set all three results to 0
-     rnxStatusBadSize: ROI width or height below 1
+     rnxStatusBadSize: width or height below 1
      rnxStatusBadFftFlag: flag not 1, 2, 4 or 8
      rnxStatusSizeOverflow: a size passes 0x7fffffff bytes */
 
@@ -189,7 +189,7 @@ RnxStatus rnxiDFTGetSize_R_32f(RnxiSize roiSize, int flag, int hint, int* pSpecS
 
    Checks, in this order
      rnxStatusNullPointer: pSpec is null
-     rnxStatusBadSize: ROI width or height below 1
+     rnxStatusBadSize: width or height below 1
      rnxStatusBadFftFlag: flag not 1, 2, 4 or 8
      rnxStatusSizeOverflow: a size passes 0x7fffffff bytes
      rnxStatusNullPointer: pMemInit is null and its size is not 0 */
@@ -207,7 +207,7 @@ RnxStatus rnxiDFTInit_C_32fc(RnxiSize roiSize, int flag, int hint, RnxiDFTSpec* 
 
    Checks, in this order
      rnxStatusNullPointer: pSpec is null
-     rnxStatusBadSize: ROI width or height below 1
+     rnxStatusBadSize: width or height below 1
      rnxStatusBadFftFlag: flag not 1, 2, 4 or 8
      rnxStatusSizeOverflow: a size passes 0x7fffffff bytes
      rnxStatusNullPointer: pMemInit is null and its size is not 0 */
@@ -226,7 +226,7 @@ RnxStatus rnxiDFTInit_R_32f(RnxiSize roiSize, int flag, int hint, RnxiDFTSpec* p
    Checks, in this order
      rnxStatusNullPointer: pSpec is null
      rnxStatusBadContext: pSpec is not a spec of this kind
-     rnxStatusNullPointer: a pointer is null (images and constant arrays are tested together)
+     rnxStatusNullPointer: an image pointer is null
      rnxStatusBadStep: a step below 1
      rnxStatusNullPointer: pBuffer is null and its size is not 0 */
 
@@ -246,7 +246,7 @@ RnxStatus rnxiFFTFwd_CToC_32fc_C1IR(Rnx32fc* pSrcDst, int srcDstStep, const Rnxi
    Checks, in this order
      rnxStatusNullPointer: pSpec is null
      rnxStatusBadContext: pSpec is not a spec of this kind
-     rnxStatusNullPointer: a pointer is null (images and constant arrays are tested together)
+     rnxStatusNullPointer: an image pointer is null
      rnxStatusBadStep: a step below 1
      rnxStatusNullPointer: pBuffer is null and its size is not 0 */
 
@@ -266,7 +266,7 @@ RnxStatus rnxiFFTInv_CToC_32fc_C1IR(Rnx32fc* pSrcDst, int srcDstStep, const Rnxi
    Checks, in this order
      rnxStatusNullPointer: pSpec is null
      rnxStatusBadContext: pSpec is not a spec of this kind
-     rnxStatusNullPointer: a pointer is null (images and constant arrays are tested together)
+     rnxStatusNullPointer: an image pointer is null
      rnxStatusBadStep: a step below 1
      rnxStatusNullPointer: pBuffer is null and its size is not 0 */
 
@@ -295,7 +295,7 @@ RnxStatus rnxiFFTFwd_RToPack_32f_AC4IR(Rnx32f* pSrcDst, int srcDstStep, const Rn
    Checks, in this order
      rnxStatusNullPointer: pSpec is null
      rnxStatusBadContext: pSpec is not a spec of this kind
-     rnxStatusNullPointer: a pointer is null (images and constant arrays are tested together)
+     rnxStatusNullPointer: an image pointer is null
      rnxStatusBadStep: a step below 1
      rnxStatusNullPointer: pBuffer is null and its size is not 0 */
 
@@ -324,7 +324,7 @@ RnxStatus rnxiFFTInv_PackToR_32f_AC4IR(Rnx32f* pSrcDst, int srcDstStep, const Rn
    Checks, in this order
      rnxStatusNullPointer: pSpec is null
      rnxStatusBadContext: pSpec is not a spec of this kind
-     rnxStatusNullPointer: a pointer is null (images and constant arrays are tested together)
+     rnxStatusNullPointer: an image pointer is null
      rnxStatusBadStep: a step below 1
      rnxStatusNullPointer: pBuffer is null and its size is not 0 */
 
@@ -344,7 +344,7 @@ RnxStatus rnxiDFTFwd_CToC_32fc_C1IR(Rnx32fc* pSrcDst, int srcDstStep, const Rnxi
    Checks, in this order
      rnxStatusNullPointer: pSpec is null
      rnxStatusBadContext: pSpec is not a spec of this kind
-     rnxStatusNullPointer: a pointer is null (images and constant arrays are tested together)
+     rnxStatusNullPointer: an image pointer is null
      rnxStatusBadStep: a step below 1
      rnxStatusNullPointer: pBuffer is null and its size is not 0 */
 
@@ -364,7 +364,7 @@ RnxStatus rnxiDFTInv_CToC_32fc_C1IR(Rnx32fc* pSrcDst, int srcDstStep, const Rnxi
    Checks, in this order
      rnxStatusNullPointer: pSpec is null
      rnxStatusBadContext: pSpec is not a spec of this kind
-     rnxStatusNullPointer: a pointer is null (images and constant arrays are tested together)
+     rnxStatusNullPointer: an image pointer is null
      rnxStatusBadStep: a step below 1
      rnxStatusNullPointer: pBuffer is null and its size is not 0 */
 
@@ -393,7 +393,7 @@ RnxStatus rnxiDFTFwd_RToPack_32f_AC4IR(Rnx32f* pSrcDst, int srcDstStep, const Rn
    Checks, in this order
      rnxStatusNullPointer: pSpec is null
      rnxStatusBadContext: pSpec is not a spec of this kind
-     rnxStatusNullPointer: a pointer is null (images and constant arrays are tested together)
+     rnxStatusNullPointer: an image pointer is null
      rnxStatusBadStep: a step below 1
      rnxStatusNullPointer: pBuffer is null and its size is not 0 */
 

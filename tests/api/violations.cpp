@@ -290,6 +290,20 @@ constexpr CheckRule kRules[] = {
     {"filternull", -8, nulls},
     {"filtersteps", -16, filterSteps},
     {"bordertype", -225, borderTypes},
+    // Of functions with specs: tested by kernel/fft_test.cpp.
+    {"fftsizeout", -8, nullptr},
+    {"fftabsurdorder", -17, nullptr},
+    {"fftspecout", -8, nullptr},
+    {"fftorder", -17, nullptr},
+    {"fftsize", -6, nullptr},
+    {"fftflag", -18, nullptr},
+    {"fftsizeoverflow", -232, nullptr},
+    {"fftmeminit", -8, nullptr},
+    {"fftspec", -8, nullptr},
+    {"fftcontext", -13, nullptr},
+    {"fftimages", -8, nullptr},
+    {"fftstep", -16, nullptr},
+    {"fftbuffer", -8, nullptr},
 };
 
 }  // namespace

@@ -344,6 +344,39 @@ class Resize(ProgramTest):
                 self.assertEqual(self.run_program("in.png", "-o", "out.png", *words).returncode, 2)
 
 
+class Fourier(ProgramTest):
+    def test_filters(self):
+        self.write("in.png", ramp(3))
+        self.process("in.png", "-o", "all.png", "lowpass", "10")
+        for got, wanted in zip(self.read("all.png"), ramp(3), strict=True):
+            for a, b in zip(got, wanted, strict=True):
+                self.assertLessEqual(max(abs(x - y) for x, y in zip(a, b, strict=True)), 2)
+        self.write("flat.png", [[(77,)] * 7] * 5)
+        self.process("flat.png", "-o", "low.png", "lowpass", "0.1")
+        self.assertEqual(self.read("low.png"), [[(77,)] * 7] * 5)
+        self.process("flat.png", "-o", "high.png", "highpass", "0.1")
+        self.assertEqual(self.read("high.png"), [[(128,)] * 7] * 5)
+
+    def test_spectrum_of_a_flat_picture_is_a_point_in_the_middle(self):
+        for width, height in ((6, 4), (7, 5)):
+            self.write("flat.png", [[(9,)] * width] * height)
+            self.process("flat.png", "-o", "out.png", "spectrum")
+            lit = [(x, y) for y, row in enumerate(self.read("out.png")) for x, p in enumerate(row) if p[0] > 20]
+            self.assertEqual(lit, [(width // 2, height // 2)])
+
+    def test_match_finds_a_patch(self):
+        for channels in (1, 3):
+            rows = ramp(channels)
+            self.write("in.png", rows)
+            self.write("patch.png", [row[5:11] for row in rows[4:11]])
+            result = self.run_program("in.png", "-o", "out.png", "match", "patch.png")
+            self.assertEqual((result.returncode, result.stdout, result.stderr), (0, "5 4\n", ""))
+            for y, row in enumerate(self.read("out.png")):
+                for x, pixel in enumerate(row):
+                    inside = 5 <= x < 11 and 4 <= y < 11
+                    self.assertEqual(pixel, rows[y][x] if inside else tuple(round(v / 2) for v in rows[y][x]))
+
+
 class Failures(ProgramTest):
     def setUp(self):
         super().setUp()
