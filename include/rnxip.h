@@ -10,5 +10,7 @@
 #include "rnxip/core.h"
 #include "rnxip/data.h"
 #include "rnxip/fft.h"
+#include "rnxip/filter.h"
+#include "rnxip/geom.h"
 
 #endif

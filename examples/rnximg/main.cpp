@@ -10,7 +10,7 @@ namespace rnximg {
 namespace {
 
 constexpr char kUsage[] =
-    "usage: rnximg INPUT -o OUTPUT [--quality N] [OPERATION ARGUMENT... [-- OPERATION ARGUMENT...]...]\n"
+    "usage: rnximg INPUT -o OUTPUT [--quality N] [--threads N] [OPERATION ARGUMENT... [-- OPERATION ARGUMENT...]...]\n"
     "       rnximg --help [OPERATION]\n"
     "       rnximg --version\n";
 
@@ -23,6 +23,7 @@ constexpr char kNotes[] =
     "\n"
     "  -o OUTPUT     where to write; nothing is written unless everything went well\n"
     "  --quality N   of JPEG, 1 to 100; 92 if not given\n"
+    "  --threads N   for operations that can share their work, 1 to 64; 1 if not given\n"
     "\n"
     "Exit status: 0 done, 1 a file or image cannot be used, 2 the command line is wrong.\n"
     "\n"
@@ -54,10 +55,12 @@ Command parse(const std::vector<std::string>& words) {
   bool inStep = false;  // whether further words belong to the last step
   for (size_t i = 0; i < words.size(); ++i) {
     const std::string& word = words[i];
-    if (word == "-o" || word == "--quality") {
+    if (word == "-o" || word == "--quality" || word == "--threads") {
       if (++i == words.size()) failUsage(word + " must be followed by its value");
       if (word == "-o") {
         command.output = words[i];
+      } else if (word == "--threads") {
+        settings().threads = naming(word, [&] { return Arguments({words[i]}).integer("N", 1, 64); });
       } else {
         command.quality = naming(word, [&] { return Arguments({words[i]}).integer("N", 1, 100); });
       }

@@ -46,6 +46,11 @@ void check(RnxStatus status) {
   if (status == rnxStatusWarningDivByZero) std::fputs("rnximg: warning: a divisor is 0\n", stderr);
 }
 
+Settings& settings() {
+  static Settings all;
+  return all;
+}
+
 // ---- Arguments ----
 
 const std::string& Arguments::word(const char* what) {

@@ -29,6 +29,8 @@ public:
   bool more() const { return next_ < words_.size(); }
   int integer(const char* what, int low, int high);
   double number(const char* what, double low, double high);
+  // Any word.
+  std::string text(const char* what) { return word(what); }
   // One of the words listed.
   std::string choice(const char* what, std::initializer_list<std::string_view> allowed);
   // All words that are left: one number for all colours, or, unless the image is gray, one for each of R, G and B.
@@ -55,6 +57,12 @@ struct Operation {
   void (*apply)(Image& image, Arguments& arguments);
   std::string_view details = {};  // more lines for the operation's own help
 };
+
+// What the command line says beside the operations.
+struct Settings {
+  int threads = 1;
+};
+Settings& settings();
 
 // A named table of operations, known to the program as soon as it exists. Needs a static life.
 class Family {

@@ -258,6 +258,8 @@ private:
 template <class T, class Rounding, bool ScaledUp, class Channels>
 class Divide {
 public:
+  static constexpr bool kLong = true;
+
   explicit Divide(const BinaryCall<T>& call) : factor_(Vec<F>::splat(F(call.factor))) {}
 
   RNX_INLINE Vec<T> operator()(Vec<T> a, Vec<T> b) {

@@ -93,7 +93,7 @@ RNX_INLINE Block<W, N> widenTo(const Block<T, N>& block) {
   } else if constexpr (std::is_same_v<W, f32> && std::is_same_v<T, u32>) {
     // Both halves and the product are exact; the sum rounds once.
     return map(block, [](Vec<u32> v) {
-      const Vec<f32> high = toFloat(Vec<u32>{v.raw >> 16}.as<s32>());
+      const Vec<f32> high = toFloat(shiftRight(v, shiftCount(16)).as<s32>());
       return high * Vec<f32>::splat(65536.0f) + toFloat((v & Vec<u32>::splat(0xffff)).as<s32>());
     });
   } else if constexpr (std::is_same_v<W, f32>) {

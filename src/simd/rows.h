@@ -293,15 +293,17 @@ RNX_INLINE void longRows(const core::Rows& rows, T* dst, s64 dstStep, F& functor
   functor = f;
 }
 
-// The same for blocks. The functor may be long: it is part of the code once, the block at the end being the loop's first.
+// The same with the functor in the code once, the vector at the end being the loop's first: for blocks, for functors that
+// say that they are long (kLong), and for layouts with alpha, which would double all code.
 template <class Channels, class T, class F, class... Sources>
-RNX_INLINE void longRowsOfBlocks(const core::Rows& rows, T* dst, s64 dstStep, F f, Sources... sources) {
+RNX_INLINE void longRowsInOneLoop(const core::Rows& rows, T* dst, s64 dstStep, F& functor, Sources... sources) {
   using V = ResultOf<F, Sources...>;
   constexpr int L = V::kLanes;
   const auto placement = reinterpret_cast<uintptr_t>(dst) | static_cast<uintptr_t>(dstStep);
   const s64 n = rows.width, last = n - L;
   const bool stream =
       rows.walk == core::Walk::kStream && !Channels::kKeepsAlpha && placement % sizeof(T) == 0 && n >= 4 * L;
+  F f = functor;
   for (s64 y = 0; y < rows.height; ++y) {
     const s64 head = stream ? elementsToAlignment(dst) : n;  // where stores around the caches begin
     bool atEnd = n % L != 0 || stream;
@@ -326,6 +328,7 @@ RNX_INLINE void longRowsOfBlocks(const core::Rows& rows, T* dst, s64 dstStep, F 
     (sources.nextRow(), ...);
   }
   if (stream) _mm_sfence();
+  functor = f;
 }
 
 // Rows of less than a vector, or rows in order: by parts of n elements.
@@ -346,10 +349,10 @@ RNX_INLINE void forEachElement(const core::Rows& rows, T* dst, s64 dstStep, F& f
   const bool inOrder = rows.walk == core::Walk::kInOrder;
   if (inOrder || rows.width < ResultOf<F, Sources...>::kLanes) {
     rowsByParts<Channels>(rows, inOrder ? 1 : static_cast<int>(rows.width), dst, dstStep, f, sources...);
-  } else if constexpr (kOneVector<F, Sources...>) {
+  } else if constexpr (kOneVector<F, Sources...> && !Channels::kKeepsAlpha && !requires { F::kLong; }) {
     longRows<Channels>(rows, dst, dstStep, f, sources...);
   } else {
-    longRowsOfBlocks<Channels>(rows, dst, dstStep, f, sources...);
+    longRowsInOneLoop<Channels>(rows, dst, dstStep, f, sources...);
   }
 }
 

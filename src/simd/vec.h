@@ -79,6 +79,14 @@ template <class T> RNX_INLINE Vec<T> operator^(Vec<T> a, Vec<T> b) { return {a.r
 template <class T> RNX_INLINE Vec<T> operator~(Vec<T> a) { return {~a.raw}; }
 // clang-format on
 
+// The same vector, in a register from here on. Compilers load a vector again for each of its uses, which is dear where
+// loads are what limits a loop.
+template <class T>
+RNX_INLINE Vec<T> inRegister(Vec<T> v) {
+  __asm__("" : "+x"(v.raw));
+  return v;
+}
+
 // The integer type as wide as T: comparisons give all ones or zeros of it.
 template <int Size>
 struct MaskOf;

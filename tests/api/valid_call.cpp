@@ -14,14 +14,16 @@ void number(ValidCall& valid, size_t index) {
   valid.call().setAt(index, N);
 }
 
+// Where a later parameter of the role has to be the larger one.
+void rising(ValidCall& valid, size_t index) { valid.call().setAt(index, index); }
+
 template <s64 N>
 void size(ValidCall& valid, size_t index) {
   static const RnxiSizeL large = {N, N};
-  const RnxiSize plain = {static_cast<int>(N), static_cast<int>(N)};
-  if (valid.call().signature().parameters()[index].isPointer()) {
+  if (valid.call().signature().isLong) {
     valid.call().setAt(index, &large);
   } else {
-    valid.call().setAt(index, plain);
+    valid.call().setAt(index, RnxiSize{static_cast<int>(N), static_cast<int>(N)});
   }
 }
 
@@ -34,29 +36,32 @@ struct RoleValue {
   std::string_view role;
   SetRole set;
 };
-constexpr RoleValue kRoles[] = {
-    {"value", number<1>},
-    {"one_value", number<1>},
-    {"fourth", number<1>},
-    {"scale", number<0>},
-    {"round", number<1>},
-    {"flip", number<0>},
-    {"cacheflags", number<0>},
+
+// Numbers. Where a layout makes an array of the role, it is memory like any other.
+constexpr RoleValue kNumbers[] = {
+    {"value", number<1>},    {"one_value", number<1>},  {"fourth", number<1>},
+    {"alpha", number<1>},    {"threshold", number<1>},  {"threshold_value", number<1>},
+    {"levels", number<1>},   {"muladd", number<2>},     {"scale", number<0>},
+    {"power", number<0>},    {"round", number<1>},      {"anyround", number<1>},
+    {"hint", number<0>},     {"cacheflags", number<0>}, {"flip", number<0>},
+    {"relation", number<0>}, {"cmpop", number<0>},      {"top", number<2>},
+    {"left", number<2>},     {"bits_src", number<0>},   {"bits_dst", number<0>},
+    {"outside", rising},     {"range", rising},
+};
+constexpr RoleValue kOthers[] = {
     {"order", channelOrder},
-    {"pixelwidth", number<5>},
-    {"pixelheight", number<5>},
     {"srcroi", size<ValidCall::kSize>},
     {"dstroi", size<ValidCall::kLarge>},
-    {"top", number<2>},
-    {"left", number<2>},
 };
 
-const RoleValue* find(std::string_view role) {
-  const auto found = std::ranges::find(kRoles, role, &RoleValue::role);
-  return found == std::end(kRoles) ? nullptr : found;
+// Null where the value follows from the C type.
+const RoleValue* find(const Parameter& p) {
+  if (const auto other = std::ranges::find(kOthers, p.role, &RoleValue::role); other != std::end(kOthers)) return other;
+  if (p.isPointer() || p.isStep()) return nullptr;
+  const auto number = std::ranges::find(kNumbers, p.role, &RoleValue::role);
+  return number == std::end(kNumbers) ? nullptr : number;
 }
 
-// Values for everything else follow from the C type.
 bool hasDefault(const Parameter& p) { return p.isPointer() || p.isStep() || p.type == "RnxiSize"; }
 
 bool isPlanes(const Parameter& p) { return p.type.ends_with("* const*") || p.type.ends_with("**"); }
@@ -66,7 +71,7 @@ bool isPlanes(const Parameter& p) { return p.type.ends_with("* const*") || p.typ
 std::vector<std::string> ValidCall::unknownRoles(const Signature& s) {
   std::vector<std::string> unknown;
   for (const Parameter& p : s.parameters()) {
-    if (find(p.role) == nullptr && !hasDefault(p)) unknown.emplace_back(p.role);
+    if (find(p) == nullptr && !hasDefault(p)) unknown.emplace_back(p.role);
   }
   return unknown;
 }
@@ -74,10 +79,7 @@ std::vector<std::string> ValidCall::unknownRoles(const Signature& s) {
 ValidCall::ValidCall(const Signature& s) : random_(s.name), call_(s) {
   const auto parameters = s.parameters();
   for (size_t i = 0; i < parameters.size(); ++i) {
-    const RoleValue* role = find(parameters[i].role);
-    // The array form of a constant is memory like any other.
-    const bool isArray = parameters[i].isPointer() && role != nullptr && role->set == number<1>;
-    if (role != nullptr && !isArray) {
+    if (const RoleValue* role = find(parameters[i])) {
       role->set(*this, i);
     } else {
       setDefault(i);

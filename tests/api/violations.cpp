@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <limits>
 #include <memory>
 
 namespace rnx::test {
@@ -184,6 +185,49 @@ Violations channelOrders(const Signature& s) {
   return list;
 }
 
+Violations comparisons(const Signature& s) { return numbersOf(s, "cmpop", {-1, 1, 2, 3, 5, INT_MIN, INT_MAX}); }
+
+Violations bitOffsets(const Signature& s) {
+  Violations list;
+  for (const Parameter& p : s.parameters()) {
+    if (p.name.ends_with("BitOffset")) appendNumbers(list, p, {-1, -8, INT_MIN});
+  }
+  return list;
+}
+
+Violations emptyRanges(const Signature&) {
+  constexpr f32 kNaN = std::numeric_limits<f32>::quiet_NaN(), kInfinity = std::numeric_limits<f32>::infinity();
+  Violations list;
+  for (const auto& [low, high] :
+       {std::pair{1.0f, 1.0f}, {0.0f, -0.0f}, {1.0f, 0.0f}, {kNaN, 1.0f}, {1.0f, kNaN}, {kInfinity, kInfinity}}) {
+    list.push_back({"range " + std::to_string(low) + " to " + std::to_string(high),
+                    [low, high](Call& call) { call.set("vMin", low).set("vMax", high); }});
+  }
+  return list;
+}
+
+// An upper level below the lower one in one channel that is used.
+Violations crossedLevels(const Signature& s) {
+  if (s.layout == "C1") {
+    return {{"levels 5 and 4", [](Call& call) { call.set("thresholdLT", 5).set("thresholdGT", 4); }}};
+  }
+  Violations list;
+  for (size_t channel = 0; channel < 3; ++channel) {
+    withType(s.source(), [&](auto zero) {
+      using T = decltype(zero);
+      if constexpr (std::is_arithmetic_v<T>) {
+        auto upper = std::make_shared<std::array<T, 4>>(std::array<T, 4>{9, 9, 9, 9});
+        auto lower = std::make_shared<std::array<T, 4>>(std::array<T, 4>{5, 5, 5, 5});
+        (*upper)[channel] = 4;
+        list.push_back({"levels 5 and 4 in channel " + std::to_string(channel), [lower, upper](Call& call) {
+                          call.set("thresholdLT", lower->data()).set("thresholdGT", upper->data());
+                        }});
+      }
+    });
+  }
+  return list;
+}
+
 constexpr CheckRule kRules[] = {
     {"null", -8, nulls},
     {"size", -6, sizes},
@@ -198,13 +242,26 @@ constexpr CheckRule kRules[] = {
     {"order_null", -8, nullOfClaim<kClaims[1]>},
     {"step_zero", -16, zeroSteps},
     {"order", -60, channelOrders},
+    {"planes", -8, nulls},
+    {"cmpop", -14, comparisons},
+    {"thresholds", -19, crossedLevels},
+    {"bitoffset", -6, bitOffsets},
+    {"range", -12, emptyRanges},
 };
+
+constexpr std::string_view kOwnSuites[] = {"resize_", "filter", "fft"};
 
 }  // namespace
 
 const CheckRule* checkRule(std::string_view token) {
   const auto found = std::ranges::find(kRules, token, &CheckRule::token);
   return found == std::end(kRules) ? nullptr : found;
+}
+
+bool hasChecksOfItsOwn(const Signature& s) {
+  return std::ranges::any_of(s.checkList(), [](std::string_view token) {
+    return std::ranges::any_of(kOwnSuites, [&](std::string_view prefix) { return token.starts_with(prefix); });
+  });
 }
 
 }  // namespace rnx::test

@@ -1,0 +1,31 @@
+// Halves of vectors in memory.
+#pragma once
+
+#include "simd/vec.h"
+
+namespace rnx::simd {
+namespace {
+
+#if RNX_VECTOR_BYTES == 32
+RNX_INLINE __m128i loadHalf(const void* p) { return _mm_loadu_si128(static_cast<const __m128i*>(p)); }
+RNX_INLINE Vec<f64> loadHalfAsDouble(const f32* p) { return {_mm256_cvtps_pd(_mm_loadu_ps(p))}; }
+#else
+RNX_INLINE __m128i loadHalf(const void* p) { return _mm_loadl_epi64(static_cast<const __m128i*>(p)); }
+RNX_INLINE Vec<f64> loadHalfAsDouble(const f32* p) { return {_mm_cvtps_pd(_mm_castsi128_ps(loadHalf(p)))}; }
+#endif
+
+// The lower half of the vector.
+template <class T>
+RNX_INLINE void storeHalf(T* p, Vec<T> v) {
+#if RNX_VECTOR_BYTES == 32
+  _mm_storeu_si128(reinterpret_cast<__m128i*>(p), _mm256_castsi256_si128(v.bits()));
+#else
+  _mm_storel_epi64(reinterpret_cast<__m128i*>(p), v.bits());
+#endif
+}
+
+// To single precision and back.
+RNX_INLINE Vec<f64> roundToSingle(Vec<f64> v) { return {RNX_MM(cvtps_pd)(RNX_MM(cvtpd_ps)(v.raw))}; }
+
+}  // namespace
+}  // namespace rnx::simd
