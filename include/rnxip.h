@@ -12,5 +12,6 @@
 #include "rnxip/fft.h"
 #include "rnxip/filter.h"
 #include "rnxip/geom.h"
+#include "rnxip/stats.h"
 
 #endif

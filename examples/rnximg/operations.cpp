@@ -90,6 +90,8 @@ std::array<Rnx8u, 3> Arguments::levels(const char* what, const Image& image) {
   return {static_cast<Rnx8u>(values[0]), static_cast<Rnx8u>(values[1]), static_cast<Rnx8u>(values[2])};
 }
 
+Image Arguments::image(const char* what, const Image& image) { return readImage(word(what), image.channels()); }
+
 Image Arguments::sameSizeImage(const char* what, const Image& image) {
   const std::string& path = word(what);
   Image other = readImage(path, image.channels());

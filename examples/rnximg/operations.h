@@ -37,7 +37,9 @@ public:
   std::array<double, 3> perColor(const char* what, double low, double high, const Image& image);
   // The same with integers.
   std::array<Rnx8u, 3> levels(const char* what, const Image& image);
-  // A picture from a file, in the channels of `image`; fails unless it has the size of `image`.
+  // A picture from a file, in the channels of `image`.
+  Image image(const char* what, const Image& image);
+  // The same; fails unless it has the size of `image`.
   Image sameSizeImage(const char* what, const Image& image);
 
   // Fails when words are left.

@@ -15,13 +15,21 @@ inline const CompareKernelsOf<s16>& kernelsOf(const CompareKernels& k, s16) { re
 inline const CompareKernelsOf<f32>& kernelsOf(const CompareKernels& k, f32) { return k.of32f; }
 
 template <class T>
-const Relations<T>& relationsOf(const CompareKernelsOf<T>& k, core::C1) { return k.c1; }
+const Relations<T>& relationsOf(const CompareKernelsOf<T>& k, core::C1) {
+  return k.c1;
+}
 template <class T>
-const Relations<T>& relationsOf(const CompareKernelsOf<T>& k, core::C3) { return k.c3; }
+const Relations<T>& relationsOf(const CompareKernelsOf<T>& k, core::C3) {
+  return k.c3;
+}
 template <class T>
-const Relations<T>& relationsOf(const CompareKernelsOf<T>& k, core::C4) { return k.c4; }
+const Relations<T>& relationsOf(const CompareKernelsOf<T>& k, core::C4) {
+  return k.c4;
+}
 template <class T>
-const Relations<T>& relationsOf(const CompareKernelsOf<T>& k, core::AC4) { return k.ac4; }
+const Relations<T>& relationsOf(const CompareKernelsOf<T>& k, core::AC4) {
+  return k.ac4;
+}
 
 // The steps are tested before the size, and a bad selector is not an error: it leaves the destination as it is.
 template <class T, class L>
@@ -32,16 +40,15 @@ RnxStatus compare(const T* src1, int src1Step, const T* src2, int src2Step, u8* 
   if (core::empty(roi)) return rnxStatusBadSize;
   if (cmpOp < rnxCmpLess || cmpOp > rnxCmpGreater) return rnxStatusNoError;
 
-  CompareCall<T> call = {
-      .rows = core::planRows(roi.width, roi.height, core::operand(dst, dstStep, roi.width),
-                             core::operand(src1, src1Step, s64{roi.width} * L::kChannels),
-                             core::operand(src2, src2Step, s64{roi.width} * L::kChannels)),
-      .left = src1,
-      .leftStep = src1Step,
-      .right = src2,
-      .rightStep = src2Step,
-      .dst = dst,
-      .dstStep = dstStep};
+  CompareCall<T> call = {.rows = core::planRows(roi.width, roi.height, core::operand(dst, dstStep, roi.width),
+                                                core::operand(src1, src1Step, s64{roi.width} * L::kChannels),
+                                                core::operand(src2, src2Step, s64{roi.width} * L::kChannels)),
+                         .left = src1,
+                         .leftStep = src1Step,
+                         .right = src2,
+                         .rightStep = src2Step,
+                         .dst = dst,
+                         .dstStep = dstStep};
   if (cmpOp >= rnxCmpGreaterEq) {
     std::swap(call.left, call.right);
     std::swap(call.leftStep, call.rightStep);

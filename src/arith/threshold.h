@@ -24,7 +24,7 @@ struct ChannelValues {
 };
 
 template <class L, class T>
-RnxStatus runThreshold(ThresholdForms<T> ThresholdKernelsOf<T>::* forms, const T* src, int srcStep, T* dst, int dstStep,
+RnxStatus runThreshold(ThresholdForms<T> ThresholdKernelsOf<T>::*forms, const T* src, int srcStep, T* dst, int dstStep,
                        RnxiSize roi, const T* low, const T* lowValue, const T* high, const T* highValue) {
   const ChannelValues<T, L> l(low), lv(lowValue), h(high), hv(highValue);
   const s64 width = s64{roi.width} * L::kChannels;

@@ -73,7 +73,8 @@ void threshold(const ThresholdCall<T>& call) {
 }
 
 template <class T, class F, Takes kTakes>
-constexpr ThresholdForms<T> kForms = {threshold<T, F, kTakes, AllChannels<T>>, threshold<T, F, kTakes, ColorChannels<T>>};
+constexpr ThresholdForms<T> kForms = {threshold<T, F, kTakes, AllChannels<T>>,
+                                      threshold<T, F, kTakes, ColorChannels<T>>};
 
 template <class T>
 constexpr ThresholdKernelsOf<T> kKernels = {

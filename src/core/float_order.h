@@ -1,5 +1,5 @@
-// Order of floating-point values without floating-point arithmetic: checks run before a call sets the control state that
-// its arithmetic needs, and leave the caller's state alone.
+// Order of floating-point values without floating-point arithmetic: checks run before a call sets the control state
+// that its arithmetic needs, and leave the caller's state alone.
 #pragma once
 
 #include <bit>

@@ -19,14 +19,14 @@ const Entry& convertKernels(const core::Rows& rows) {
 template <class L, class S, class D>
 ConvertCall planConversion(const S* src, int srcStep, D* dst, int dstStep, RnxiSize roi) {
   const s64 width = s64{roi.width} * L::kChannels;
-  return {.rows = core::planRows(width, roi.height, core::operand(dst, dstStep, width),
-                                 core::operand(src, srcStep, width)),
-          .src = src,
-          .srcStep = srcStep,
-          .dst = dst,
-          .dstStep = dstStep,
-          .shift = 0,
-          .factor = 1.0f};
+  return {
+      .rows = core::planRows(width, roi.height, core::operand(dst, dstStep, width), core::operand(src, srcStep, width)),
+      .src = src,
+      .srcStep = srcStep,
+      .dst = dst,
+      .dstStep = dstStep,
+      .shift = 0,
+      .factor = 1.0f};
 }
 
 template <class L>
@@ -101,8 +101,7 @@ RnxStatus convertFloatScaledInPlace(D* srcDst, int srcDstStep, RnxiSize roi, int
 }
 
 template <class S, class D>
-RnxStatus convertShifted(const S* src, int srcStep, D* dst, int dstStep, RnxiSize roi, int roundMode,
-                         int scaleFactor) {
+RnxStatus convertShifted(const S* src, int srcStep, D* dst, int dstStep, RnxiSize roi, int roundMode, int scaleFactor) {
   if (core::anyNull(src, dst)) return rnxStatusNullPointer;
   if (core::empty(roi)) return rnxStatusBadSize;
   constexpr int kSourceBits = 8 * sizeof(S);

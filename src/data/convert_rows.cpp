@@ -76,8 +76,7 @@ private:
 // ---- Integers with a scale factor, in lanes of 16 or 32 bits ----
 
 template <class S>
-using ScaleLane =
-    std::conditional_t<sizeof(S) == 4, S, std::conditional_t<std::is_signed_v<S>, s16, u16>>;
+using ScaleLane = std::conditional_t<sizeof(S) == 4, S, std::conditional_t<std::is_signed_v<S>, s16, u16>>;
 
 RNX_INLINE Vec<u16> magnitude(Vec<s16> v) { return Vec<u16>::of(RNX_MM(abs_epi16)(v.bits())); }
 RNX_INLINE Vec<u32> magnitude(Vec<s32> v) { return Vec<u32>::of(RNX_MM(abs_epi32)(v.bits())); }
@@ -100,7 +99,7 @@ public:
       return quotient;
     } else if constexpr (std::is_same_v<Rounding, HalfAway>) {
       return quotient + (shiftRight(m, countBut1_) & one);  // the bit of the half
-    } else {                                               // up where the rest is above half, or half and the quotient odd
+    } else {  // up where the rest is above half, or half and the quotient odd
       const Vec<U> rest = m & restBits_, bound = aboveHalf_ - (quotient & one);
       return quotient - equal(max(rest, bound), rest).template as<U>();  // all ones are -1
     }

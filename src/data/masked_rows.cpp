@@ -40,6 +40,7 @@ public:
         __builtin_memcpy(values + p * kPixelBytes, call.values, sizeof(T) * static_cast<size_t>(call.used));
       }
     }
+    RNX_UNROLL
     for (int j = 0; j < Channels; ++j) {
       number_[j] = everyGroup(loadChunk(numbers + j * kChunk));
       value_[j] = everyGroup(loadChunk(values + j * kChunk));
@@ -50,21 +51,25 @@ public:
     Vec<u8> chunk[Channels];
   };
 
+  template <bool Adjacent>
   RNX_INLINE Result compute(s64 x, s64 apart) const {
     const Vec<u8> mask = loadStarts<kPixels>(mask_ + x, apart);
     Result result;
+    RNX_UNROLL
     for (int j = 0; j < Channels; ++j) {
       const s64 at = x * kPixelBytes + j * kChunk;
-      const Vec<u8> now = Image ? loadChunks(src_ + at, apart * kPixelBytes) : value_[j];
-      const Vec<u8> old = loadChunks(dst_ + at, apart * kPixelBytes);
+      const Vec<u8> now = Image ? loadChunks < Adjacent && Channels == 1 > (src_ + at, apart * kPixelBytes) : value_[j];
+      const Vec<u8> old = loadChunks < Adjacent && Channels == 1 > (dst_ + at, apart * kPixelBytes);
       result.chunk[j] = select(equal(shuffle(mask, number_[j]), Vec<u8>::zero()), old, now);
     }
     return result;
   }
 
+  template <bool Adjacent>
   RNX_INLINE void store(s64 x, s64 apart, const Result& result) const {
+    RNX_UNROLL
     for (int j = 0; j < Channels; ++j) {
-      storeChunks(dst_ + x * kPixelBytes + j * kChunk, apart * kPixelBytes, result.chunk[j]);
+      storeChunks<Adjacent && Channels == 1>(dst_ + x * kPixelBytes + j * kChunk, apart * kPixelBytes, result.chunk[j]);
     }
   }
 

@@ -49,9 +49,9 @@ constexpr MulAdd<S, D> kMulAdd = {mulAdd<S, D, f64>,
                                   mulAdd<S, D, std::conditional_t<kFitsSingle<S> && kFitsSingle<D>, f32, f64>>};
 
 template <class S>
-constexpr MulAdds<S, u8, s8, u16, s16, s32, f32, f64> kMulAdds = {
-    kMulAdd<S, u8>,  kMulAdd<S, s8>,  kMulAdd<S, u16>, kMulAdd<S, s16>,
-    kMulAdd<S, s32>, kMulAdd<S, f32>, kMulAdd<S, f64>};
+constexpr MulAdds<S, u8, s8, u16, s16, s32, f32, f64> kMulAdds = {kMulAdd<S, u8>,  kMulAdd<S, s8>,  kMulAdd<S, u16>,
+                                                                  kMulAdd<S, s16>, kMulAdd<S, s32>, kMulAdd<S, f32>,
+                                                                  kMulAdd<S, f64>};
 
 }  // namespace
 

@@ -176,16 +176,22 @@ private:
 
   // ---- Groups ----
 
+  // Adjacent groups are one stretch of memory where a group is one chunk.
+  template <bool Adjacent>
   static RNX_INLINE Group load(const u8* p, s64 apart) {
     Group group;
-    for (int i = 0; i < kChunks; ++i) group.chunk[i] = loadChunks(p + i * kChunk, apart);
+    RNX_UNROLL
+    for (int i = 0; i < kChunks; ++i) group.chunk[i] = loadChunks < Adjacent && kChunks == 1 > (p + i * kChunk, apart);
     return group;
   }
+  template <bool Adjacent>
   static RNX_INLINE void store(u8* p, s64 apart, const Group& group) {
-    for (int i = 0; i < kChunks; ++i) storeChunks(p + i * kChunk, apart, group.chunk[i]);
+    RNX_UNROLL
+    for (int i = 0; i < kChunks; ++i) storeChunks<Adjacent && kChunks == 1>(p + i * kChunk, apart, group.chunk[i]);
   }
   static RNX_INLINE Group merge(const Group& group, const Group& old) {
     Group merged;
+    RNX_UNROLL
     for (int i = 0; i < kChunks; ++i) merged.chunk[i] = merge(group.chunk[i], old.chunk[i]);
     return merged;
   }
@@ -193,8 +199,10 @@ private:
   static RNX_INLINE Group reversed(const Group& group) {
     if constexpr (P == 16) return group;
     Group result;
+    RNX_UNROLL
     for (int j = 0; j < kChunks; ++j) {
       bool first = true;
+      RNX_UNROLL
       for (int i = 0; i < kChunks; ++i) {
         if (!kReverseIndex<P>.used[j][i]) continue;
         const Vec<u8> part = shuffle(group.chunk[i], everyGroup(loadChunk(kReverseIndex<P>.at[j][i])));
@@ -214,12 +222,14 @@ private:
     const u8* src;  // the last group
 
     Reverse(u8* d, const u8* s) : dst(d), src(s) {}
+    template <bool Adjacent>
     RNX_INLINE Group compute(s64 x, s64 apart) const {
-      const Group group = reversed(load(src - x * P, -apart * P));
-      return Keeps ? merge(group, load(dst + x * P, apart * P)) : group;
+      const Group group = reversed(load<false>(src - x * P, -apart * P));
+      return Keeps ? merge(group, load<Adjacent>(dst + x * P, apart * P)) : group;
     }
+    template <bool Adjacent>
     RNX_INLINE void store(s64 x, s64 apart, const Group& group) const {
-      PixelRow::store(dst + x * P, apart * P, group);
+      PixelRow::store<Adjacent>(dst + x * P, apart * P, group);
     }
   };
 
@@ -229,13 +239,16 @@ private:
 
     Fill(u8* d, const u8* pixel) : dst(d) {
       const __m128i p = loadPixel<P>(pixel);
+      RNX_UNROLL
       for (int i = 0; i < kChunks; ++i) pattern.chunk[i] = everyGroup(repeat(p, i));
     }
+    template <bool Adjacent>
     RNX_INLINE Group compute(s64 x, s64 apart) const {
-      return Keeps ? merge(pattern, load(dst + x * P, apart * P)) : pattern;
+      return Keeps ? merge(pattern, load<Adjacent>(dst + x * P, apart * P)) : pattern;
     }
+    template <bool Adjacent>
     RNX_INLINE void store(s64 x, s64 apart, const Group& group) const {
-      PixelRow::store(dst + x * P, apart * P, group);
+      PixelRow::store<Adjacent>(dst + x * P, apart * P, group);
     }
   };
 
@@ -248,13 +261,16 @@ private:
       Group toA, toB;
     };
     Exchange(u8* first, u8* second, s64 bytes) : a(first), b(second), advance(bytes) {}
+    template <bool Adjacent>
     RNX_INLINE Two compute(s64 x, s64 apart) const {
-      const Group fromA = load(a + x * P, apart * P), fromB = load(b + x * advance, apart * advance);
+      const Group fromA = load<Adjacent>(a + x * P, apart * P),
+                  fromB = load < Adjacent && !Reversed > (b + x * advance, apart * advance);
       return {merge(Reversed ? reversed(fromB) : fromB, fromA), merge(Reversed ? reversed(fromA) : fromA, fromB)};
     }
+    template <bool Adjacent>
     RNX_INLINE void store(s64 x, s64 apart, const Two& two) const {
-      PixelRow::store(a + x * P, apart * P, two.toA);
-      PixelRow::store(b + x * advance, apart * advance, two.toB);
+      PixelRow::store<Adjacent>(a + x * P, apart * P, two.toA);
+      PixelRow::store<Adjacent && !Reversed>(b + x * advance, apart * advance, two.toB);
     }
   };
 };

@@ -71,9 +71,8 @@ public:
   template <int N>
   RNX_INLINE Block<u8, N> operator()(const Block<f32, N>& block) const {
     const Vec<f32> low = low_, high = high_, perUnit = perUnit_, offset = offset_;
-    return narrowTo<u8>(ToNearestEven::toInt(map(block, [=](Vec<f32> v) RNX_INLINE_LAMBDA {
-      return max(min(v, high), low) * perUnit - offset;
-    })));
+    return narrowTo<u8>(ToNearestEven::toInt(
+        map(block, [=](Vec<f32> v) RNX_INLINE_LAMBDA { return max(min(v, high), low) * perUnit - offset; })));
   }
 
 private:

@@ -15,7 +15,7 @@ struct Image {
   s64 dstStep;
 };
 
-// Pixels of 1, 2, 4, 8 or 16 bytes: a square of one chunk in each direction.
+// Pixels of 1, 2, 4 or 8 bytes: a square of one chunk in each direction.
 template <int P, bool Keeps>
 struct Tile {
   static constexpr int kColumns = kChunk / P, kRows = kColumns;
@@ -23,10 +23,12 @@ struct Tile {
   // The groups at row y and `apart` rows further.
   static RNX_INLINE void move(const Image& image, s64 x, s64 y, s64 apart, s64) {
     Vec<u8> v[kRows];
+    RNX_UNROLL
     for (int r = 0; r < kRows; ++r) {
       v[r] = loadChunks(core::at(image.src, (y + r) * image.srcStep + x * P), apart * image.srcStep);
     }
-    if constexpr (P < 16) transposeChunks<P>(v);
+    transposeChunks<P>(v);
+    RNX_UNROLL
     for (int c = 0; c < kColumns; ++c) {
       u8* dst = core::at(image.dst, (x + c) * image.dstStep + y * P);
       if (Keeps) v[c] = select(Mask<u8>::load(kAlphaBytes<P>.at), loadChunks(dst, apart * P), v[c]);
@@ -34,6 +36,27 @@ struct Tile {
         v[c].store(dst);
       } else {
         storeChunks(dst, apart * P, v[c]);
+      }
+    }
+  }
+};
+
+// Pixels of 16 bytes only change places: some of a row at a time, to have less to count.
+template <bool Keeps>
+struct Tile<16, Keeps> {
+  static constexpr int kColumns = 4, kRows = 1;
+
+  static RNX_INLINE void move(const Image& image, s64 x, s64 y, s64 apart, s64) {
+    const u8* src = core::at(image.src, y * image.srcStep + x * 16);
+    u8* dst = core::at(image.dst, x * image.dstStep + y * 16);
+    RNX_UNROLL
+    for (int c = 0; c < kColumns; ++c, dst = core::at(dst, image.dstStep)) {
+      Vec<u8> v = loadChunks(src + c * 16, apart * image.srcStep);
+      if (Keeps) v = select(Mask<u8>::load(kAlphaBytes<16>.at), loadChunks(dst, apart * 16), v);
+      if (apart == kRows) {
+        v.store(dst);
+      } else {
+        storeChunks(dst, apart * 16, v);
       }
     }
   }
@@ -71,7 +94,9 @@ requires(P % 3 == 0) struct Tile<P, Keeps> {
     const int early = (x + kColumns) * P + 4 > width * P ? 1 : 0;
     const Vec<u8> expand = everyGroup(loadChunk(kLaneIndex<P>.expand[early]));
     Vec<u8> v[4][kColumns];
+    RNX_UNROLL
     for (int s = 0; s < 4; ++s) {
+      RNX_UNROLL
       for (int c = 0; c < kColumns; ++c) {
         const s64 row = y + s * kColumns + c;
         v[s][c] = shuffle(
@@ -79,8 +104,10 @@ requires(P % 3 == 0) struct Tile<P, Keeps> {
       }
       if constexpr (kColumns > 1) transposeChunks<kLane>(v[s]);
     }
+    RNX_UNROLL
     for (int c = 0; c < kColumns; ++c) {
       Vec<u8> part[4];
+      RNX_UNROLL
       for (int s = 0; s < 4; ++s) part[s] = shuffle(v[s][c], everyGroup(loadChunk(kLaneIndex<P>.compress[s])));
       u8* dst = core::at(image.dst, (x + c) * image.dstStep + y * P);
       storeChunks(dst, apart * P, firstBytes<12>(part[0], part[1]));
@@ -119,25 +146,32 @@ void transposeBlock(const Image& image, s64 x0, s64 x1, s64 y0, s64 y1, s64 widt
   }
 }
 
-// Pixels on the side of a block, a multiple of every tile's.
+// A block is as wide as the pixels that fill whole cache lines. Blocks follow each other down the source, which is
+// along the rows of the destination.
 template <int P>
-constexpr s64 kBlock = P == 1   ? 64
-                       : P <= 4 ? 32
-                                : 16;
+constexpr s64 kBlockColumns = (P % 3 == 0 ? 192 : 64) / P;
+constexpr s64 kBlockRows = 64;
 
 template <int P, bool Keeps>
 void transpose(const TransposeCall& call) {
   const Image image = {call.src, call.srcStep, call.dst, call.dstStep};
   if (call.inOrder) return pixelByPixel<P, Keeps>(image, 0, call.width, 0, call.height);
   // A rest shorter than a block joins the last one.
-  constexpr s64 kSize = kBlock<P>;
-  const auto end = [](s64 start, s64 n) { return n - start < 2 * kSize ? n : start + kSize; };
-  for (s64 y = 0; y < call.height; y = end(y, call.height)) {
-    for (s64 x = 0; x < call.width; x = end(x, call.width)) {
-      transposeBlock<P, Keeps>(image, x, end(x, call.width), y, end(y, call.height), call.width);
+  const auto end = [](s64 start, s64 n, s64 size) { return n - start < 2 * size ? n : start + size; };
+  for (s64 x = 0, nextX = 0; x < call.width; x = nextX) {
+    nextX = end(x, call.width, kBlockColumns<P>);
+    for (s64 y = 0, nextY = 0; y < call.height; y = nextY) {
+      nextY = end(y, call.height, kBlockRows);
+      transposeBlock<P, Keeps>(image, x, nextX, y, nextY, call.width);
     }
   }
 }
+
+// Pixels on the side of a square in place.
+template <int P>
+constexpr s64 kSquare = P == 1   ? 64
+                        : P <= 4 ? 32
+                                 : 16;
 
 // Blocks mirrored at the diagonal change places, one of them by way of a buffer.
 template <int P>
@@ -150,7 +184,7 @@ void inPlace(u8* image, s64 step, s64 size, bool inOrder) {
     }
     return;
   }
-  constexpr s64 kSize = kBlock<P>;
+  constexpr s64 kSize = kSquare<P>;
   u8 buffer[kSize * kSize * P];
   for (s64 y = 0; y < size; y += kSize) {
     const s64 rows = std::min(kSize, size - y);

@@ -66,13 +66,14 @@ public:
 
   // ---- Rows of complex images ----
 
-  // Floats of the rows, in fours; a row that is no multiple of four ends with four that overlap.
-  template <class Store>
-  RNX_INLINE void loadRows(const f32* first, s64 step, s64 floats, Store store) const {
+  // Floats of the rows rowOf(0) ... from `first`, in fours; a row that is no multiple of four ends with four that
+  // overlap.
+  template <class RowOf, class Store>
+  RNX_INLINE void loadRows(const f32* first, s64 step, s64 floats, RowOf rowOf, Store store) const {
     for (s64 f = 0; f < floats; f += G) {
       const s64 at = std::min(f, floats - G);
       V column[G];
-      loadColumns([&](int r) RNX_LAMBDA { return core::at(first, r * step, at); }, column);
+      loadColumns([&](int r) RNX_LAMBDA { return core::at(first, rowOf(r) * step, at); }, column);
       unroll<0, G>([&](auto i) RNX_LAMBDA { store(at + i.value, column[i.value]); });
     }
   }
@@ -83,7 +84,7 @@ public:
     const Outputs<V> outputs = outputsOf(rows);
     for (s64 row = 0; row < height; row += L) {
       const s64 first = std::min(row, height - L);
-      loadRows(core::at(call.src, first * call.srcStep), call.srcStep, 2 * width,
+      loadRows(core::at(call.src, first * call.srcStep), call.srcStep, 2 * width, inOrder,
                [&](s64 f, V v) RNX_LAMBDA { v.store(to + f * L); });
       rows.run(tile, tile);
       forEachGroup([&](s64 strip, s64 start, auto group) RNX_LAMBDA {

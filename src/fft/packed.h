@@ -1,5 +1,5 @@
-// Real images and their packed spectra. Two real rows a, b are transformed as one complex row z = a + i b and taken
-// apart afterwards:
+// Real images and their packed spectra. Two real rows a, b = rows 2 p and 2 p + 1 are transformed as one complex row
+// z = a + i b and taken apart afterwards; the last row of an odd height is its own partner:
 //   2 A_k = Z_k + conj Z_(n-k),   2 i B_k = Z_k - conj Z_(n-k)
 // The spectrum of a real row is known from its columns 0 ... width / 2. Column 0 and, for even widths, column width / 2
 // are transforms of real columns; they share the complex column 0 of the grid in the same way.
@@ -20,14 +20,31 @@ class PackedGrid : public Grid<V> {
 public:
   explicit PackedGrid(const TransformCall& c) : Base(c), imageWidth(c.spec->width) {}
 
+  // The rows of L pairs, by lane: of their first or second rows.
+  struct PairedRows {
+    s64 first, last;  // even; the second row of the last pair
+
+    RNX_INLINE s64 operator()(int r, s64 part) const {
+      return part == 0 ? first + 2 * r : (r == L - 1 ? last : first + 2 * r + 1);
+    }
+  };
+  // Calls f for all pairs, L at a time; the last of these groups may overlap the one before.
+  template <class F>
+  RNX_INLINE void forEachPairs(F f) const {
+    const s64 pairs = (height + 1) / 2;
+    for (s64 pair = 0; pair < pairs; pair += L) {
+      const s64 first = 2 * std::min(pair, pairs - L);
+      f(PairedRows{first, std::min(first + 2 * L - 1, height - 1)});
+    }
+  }
+
   // ---- Forward ----
 
   void forwardRows(f32 scale) const {
     const Outputs<V> outputs = rows.outputs(tile);
-    for (s64 row = 0; row < height; row += 2 * L) {
-      const s64 first = std::min(row, height - 2 * L);
-      loadRealRows(first, 0);
-      loadRealRows(first + L, L);
+    forEachPairs([&](PairedRows pairs) RNX_LAMBDA {
+      loadRealRows(pairs, 0);
+      loadRealRows(pairs, 1);
       rows.run(tile, tile);
       this->forEachGroup([&](s64 strip, s64 start, auto group) RNX_LAMBDA {
         V re[G], im[G], reB[G], imB[G];
@@ -47,10 +64,12 @@ public:
             reB[i] = (z.im + y.im) * half, imB[i] = (y.re - z.re) * half;
           }
         });
-        this->storeGroup(strip, group.value, first, this->inOrder, re, im);
-        this->storeGroup(strip, group.value, first + L, this->inOrder, reB, imB);
+        this->storeGroup(
+            strip, group.value, 0, [&](int r) RNX_LAMBDA { return pairs(r, 0); }, re, im);
+        this->storeGroup(
+            strip, group.value, 0, [&](int r) RNX_LAMBDA { return pairs(r, 1); }, reB, imB);
       });
-    }
+    });
   }
 
   void forwardColumns(f32 scale) const {
@@ -81,12 +100,11 @@ public:
   }
 
   void inverseRows(f32 scale) const {
-    for (s64 row = 0; row < height; row += 2 * L) {
-      const s64 first = std::min(row, height - 2 * L);
+    forEachPairs([&](PairedRows pairs) RNX_LAMBDA {
       this->forEachGroup([&](s64 strip, s64 start, auto group) RNX_LAMBDA {
         V re[G], im[G], reB[G], imB[G];
-        loadGroup(strip, group.value, first, re, im);
-        loadGroup(strip, group.value, first + L, reB, imB);
+        loadGroup(strip, group.value, pairs, 0, re, im);
+        loadGroup(strip, group.value, pairs, 1, reB, imB);
         unroll<0, G>([&](auto index) RNX_LAMBDA {
           constexpr int i = decltype(index)::value;
           const s64 k = start + pairedElement<V>(group.value * G + i);
@@ -100,44 +118,45 @@ public:
         });
       });
       rows.run(tile, tile);
-      storeRealRows(first, 0, scale);
-      storeRealRows(first + L, L, scale);
-    }
+      storeRealRows(pairs, 0, scale);
+      storeRealRows(pairs, 1, scale);
+    });
   }
 
 private:
-  // ---- Real rows: L rows from `first` are the lanes of one part of the tile's elements ----
+  // ---- Real rows: the first (second) rows of the pairs are the real (imaginary) parts of the tile's elements ----
 
-  void loadRealRows(s64 first, s64 part) const {
-    const f32* top = core::at(call.src, first * call.srcStep);
+  void loadRealRows(PairedRows pairs, s64 part) const {
+    const auto rowOf = [=](int r) RNX_LAMBDA { return pairs(r, part); };
+    f32* const to = tile + part * L;
     if (call.channels == 1) {
-      this->loadRows(top, call.srcStep, imageWidth,
-                     [&](s64 f, V v) RNX_LAMBDA { v.store(tile + f * kElement<V> + part); });
+      this->loadRows(call.src, call.srcStep, imageWidth, rowOf,
+                     [=](s64 x, V v) RNX_LAMBDA { v.store(to + x * kElement<V>); });
       return;
     }
     for (s64 x = 0; x < imageWidth; ++x) {
-      for (s64 r = 0; r < L; ++r) {
-        tile[x * kElement<V> + part + r] = read<f32>(core::at(top, r * call.srcStep, x * call.channels));
+      for (int r = 0; r < L; ++r) {
+        to[x * kElement<V> + r] = read<f32>(core::at(call.src, rowOf(r) * call.srcStep, x * call.channels));
       }
     }
   }
 
-  void storeRealRows(s64 first, s64 part, f32 scale) const {
+  void storeRealRows(PairedRows pairs, s64 part, f32 scale) const {
     const V factor = V::splat(scale);
     const Outputs<V> outputs = this->outputsOf(rows);
-    f32* top = core::at(call.dst, first * call.dstStep);
+    const auto rowAt = [&](int r, s64 x) RNX_LAMBDA { return core::at(call.dst, pairs(r, part) * call.dstStep, x); };
     for (s64 x = 0; x < imageWidth; x += G) {
       const s64 at = std::min(x, imageWidth - G);
       V column[G];
-      unroll<0, G>([&](auto i) RNX_LAMBDA { column[i.value] = V::load(outputs.at(at + i.value) + part) * factor; });
+      unroll<0, G>([&](auto i) RNX_LAMBDA { column[i.value] = V::load(outputs.at(at + i.value) + part * L) * factor; });
       if (call.channels == 1) {
-        storeColumns([&](int r) RNX_LAMBDA { return core::at(top, r * call.dstStep, at); }, column);
+        storeColumns([&](int r) RNX_LAMBDA { return rowAt(r, at); }, column);
         continue;
       }
       for (int i = 0; i < G; ++i) {
         f32 lanes[L];
         column[i].store(lanes);
-        for (s64 r = 0; r < L; ++r) write(core::at(top, r * call.dstStep, (at + i) * call.channels), lanes[r]);
+        for (int r = 0; r < L; ++r) write(rowAt(r, (at + i) * call.channels), lanes[r]);
       }
     }
   }
@@ -149,10 +168,10 @@ private:
     return rows.outputs(tile)[imageWidth / 2];
   }
 
-  RNX_INLINE void loadGroup(s64 strip, int group, s64 first, V (&re)[G], V (&im)[G]) const {
-    const f32* base = this->stripRow(strip, first) + group * G;
-    loadColumns([&](int r) RNX_LAMBDA { return base + r * kElement<V>; }, re);
-    loadColumns([&](int r) RNX_LAMBDA { return base + L + r * kElement<V>; }, im);
+  RNX_INLINE void loadGroup(s64 strip, int group, PairedRows pairs, s64 part, V (&re)[G], V (&im)[G]) const {
+    const f32* base = this->stripRow(strip, 0) + group * G;
+    loadColumns([&](int r) RNX_LAMBDA { return base + pairs(r, part) * kElement<V>; }, re);
+    loadColumns([&](int r) RNX_LAMBDA { return base + L + pairs(r, part) * kElement<V>; }, im);
   }
 
   // ---- Rows of the packed spectrum: number k of a row, k at least 1, stands in columns 2 k - 1 and 2 k ----

@@ -64,6 +64,46 @@ void passInPlace(const f32*, f32* tile, s64 blockSize, s64 blocks, const fc32* f
   pass<V, R, kWhere>(tile, tile, blockSize, blocks, factors);
 }
 
+// Odd primes beyond the unrolled butterflies, by the same symmetric halves (see butterfly.h). The factors begin with
+// the roots exp(-2 pi i k / prime).
+template <class V>
+void primePass(const f32* src, f32* dst, s64 blockSize, s64 blocks, const fc32* factors, int prime) {
+  const s64 butterflies = blockSize / prime, stride = butterflies * kElement<V>;
+  const int half = prime / 2;
+  const fc32* roots = factors;
+  for (s64 block = 0; block < blocks; ++block, src += blockSize * kElement<V>, dst += blockSize * kElement<V>) {
+    for (s64 j = 0; j < butterflies; ++j) {
+      const f32* from = src + j * kElement<V>;
+      f32* to = dst + j * kElement<V>;
+      const fc32* twiddles = factors + prime + j * (prime - 1);
+      const auto store = [&](int k, Complex<V> x) RNX_LAMBDA {
+        storeElement(to + k * stride, butterflies > 1 && k > 0 ? x * splatFactor<V>(twiddles + (k - 1)) : x);
+      };
+      Complex<V> sum[kLargestRadix / 2 + 1], difference[kLargestRadix / 2 + 1];
+      const Complex<V> first = loadElement<V>(from);
+      Complex<V> total = first;
+      for (int k = 1; k <= half; ++k) {
+        const Complex<V> a = loadElement<V>(from + k * stride), b = loadElement<V>(from + (prime - k) * stride);
+        sum[k] = a + b;
+        difference[k] = a - b;
+        total = total + sum[k];
+      }
+      store(0, total);
+      for (int k = 1; k <= half; ++k) {
+        Complex<V> r = first, i = {V::splat(0.0f), V::splat(0.0f)};  // i: of exp(-...), so minus the sines
+        for (int m = 1, turn = k; m <= half; ++m) {
+          const Complex<V> w = splatFactor<V>(roots + turn);
+          r = r + sum[m] * w.re;
+          i = i + difference[m] * w.im;
+          turn = turn + k < prime ? turn + k : turn + k - prime;
+        }
+        store(k, {r.re - i.im, r.im + i.re});
+        store(prime - k, {r.re + i.im, r.im - i.re});
+      }
+    }
+  }
+}
+
 template <class V>
 struct PassesOf {
   Pass<V> lastApart, inFrequencyApart, last, inFrequency, inTime;
@@ -76,20 +116,20 @@ inline constexpr PassesOf<V> kPassesOf = {passApart<V, R, Twiddles::kNone>, pass
 
 // By radix.
 template <class V>
-inline constexpr PassesOf<V> kPasses[14] = {{},
-                                            {},
-                                            kPassesOf<V, 2>,
-                                            kPassesOf<V, 3>,
-                                            kPassesOf<V, 4>,
-                                            kPassesOf<V, 5>,
-                                            kPassesOf<V, 6>,
-                                            kPassesOf<V, 7>,
-                                            kPassesOf<V, 8>,
-                                            {},
-                                            {},
-                                            kPassesOf<V, 11>,
-                                            {},
-                                            kPassesOf<V, 13>};
+inline constexpr PassesOf<V> kPasses[kLargestButterfly + 1] = {{},
+                                                               {},
+                                                               kPassesOf<V, 2>,
+                                                               kPassesOf<V, 3>,
+                                                               kPassesOf<V, 4>,
+                                                               kPassesOf<V, 5>,
+                                                               kPassesOf<V, 6>,
+                                                               kPassesOf<V, 7>,
+                                                               kPassesOf<V, 8>,
+                                                               {},
+                                                               {},
+                                                               kPassesOf<V, 11>,
+                                                               {},
+                                                               kPassesOf<V, 13>};
 
 enum class Direction { kForward, kInverse };
 
@@ -136,10 +176,15 @@ private:
     for (; level < plan_.passCount; ++level) {
       const s32 radix = plan_.radix[level];
       const bool last = level + 1 == plan_.passCount;
-      const auto& passes = kPasses<V>[radix];
-      const Pass<V> apart = last ? passes.lastApart : passes.inFrequencyApart;
-      const Pass<V> inPlace = last ? passes.last : passes.inFrequency;
-      (src == tile ? inPlace : apart)(src, tile, blockSize, blocks, spec_.table<fc32>(plan_.twiddles[level]));
+      const fc32* factors = spec_.table<fc32>(plan_.twiddles[level]);
+      if (radix > kLargestButterfly) {
+        primePass<V>(src, tile, blockSize, blocks, factors, radix);
+      } else {
+        const auto& passes = kPasses<V>[radix];
+        const Pass<V> apart = last ? passes.lastApart : passes.inFrequencyApart;
+        const Pass<V> inPlace = last ? passes.last : passes.inFrequency;
+        (src == tile ? inPlace : apart)(src, tile, blockSize, blocks, factors);
+      }
       const bool splits = blockSize * kElementBytes > kCachedBytes && blocks == 1 && !last;
       blockSize /= radix;
       blocks *= radix;

@@ -40,8 +40,9 @@ struct Radix {
   f32 cost;  // of one pass, per element; measured
 };
 
-constexpr Radix kRadices[] = {{13, 3.5f}, {11, 3.0f}, {8, 1.25f}, {7, 1.9f}, {6, 1.38f},
-                              {5, 1.3f},  {4, 0.84f}, {3, 0.87f}, {2, 0.57f}};
+constexpr Radix kRadices[] = {{61, 9.5f}, {59, 9.2f}, {53, 8.2f}, {47, 7.3f}, {43, 6.7f}, {41, 6.4f}, {37, 5.8f},
+                              {31, 4.9f}, {29, 4.6f}, {23, 3.9f}, {19, 3.6f}, {17, 3.5f}, {13, 3.3f}, {11, 3.0f},
+                              {8, 1.25f}, {7, 1.9f},  {6, 1.38f}, {5, 1.3f},  {4, 0.84f}, {3, 0.87f}, {2, 0.57f}};
 
 struct Factors {
   f32 cost = INFINITY;
@@ -120,6 +121,9 @@ void writeTwiddles(const Plan& plan, Block& block) {
   for (int pass = 0; pass < plan.passCount; ++pass) {
     const s64 radix = plan.radix[pass], butterflies = blockSize / radix;
     fc32* out = block.table<fc32>(plan.twiddles[pass]);
+    if (radix > kLargestButterfly) {
+      for (s64 k = 0; k < radix; ++k) store(out++, rootOf(k, radix));
+    }
     if (butterflies > 1) {
       for (s64 j = 0; j < butterflies; ++j) {
         for (s64 q = 1; q < radix; ++q) store(out++, rootOf(j * q, blockSize));
@@ -200,7 +204,8 @@ Plan makePlan(s64 length, Block& block, void* init) {
     const s64 radix = factors.radix[pass];
     plan.radix[pass] = factors.radix[pass];
     blockSize /= radix;
-    plan.twiddles[pass] = block.reserve(blockSize > 1 ? blockSize * (radix - 1) * s64{sizeof(fc32)} : 0);
+    const s64 roots = radix > kLargestButterfly ? radix : 0;
+    plan.twiddles[pass] = block.reserve((roots + (blockSize > 1 ? blockSize * (radix - 1) : 0)) * s64{sizeof(fc32)});
   }
   plan.positions = block.reserve((length + 1) * s64{sizeof(s32)});
   if (!isSmooth) {

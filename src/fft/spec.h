@@ -8,6 +8,9 @@ namespace rnx::fft {
 
 inline constexpr int kMaxPasses = 30;  // radix 2 alone reaches 2^28
 
+inline constexpr int kLargestButterfly = 13;  // radices up to here are unrolled
+inline constexpr int kLargestRadix = 61;      // larger primes are left to the chirp
+
 // The plan of one-dimensional transforms of one length. A length whose prime factors are all small is transformed by
 // passes of small radices. Any other becomes a circular convolution with a chirp, whose size is chosen freely:
 //   X_k = c_k * sum over j of (x_j c_j) * conj(c_(k-j)),   c_j = exp(-pi i j^2 / length)
@@ -16,7 +19,8 @@ struct Plan {
   s32 size;  // of the passes: length, or at least 2 length - 1
   s32 passCount;
   s32 radix[kMaxPasses];
-  u32 twiddles[kMaxPasses];  // offset per pass: factors of outputs 1 ... radix - 1, for each butterfly of a block
+  u32 twiddles[kMaxPasses];  // offset per pass: factors of outputs 1 ... radix - 1, for each butterfly of a block;
+                             // before them, for radices that are not unrolled, the roots of unity
   u32 positions;             // s32 for outputs 0 ... length, where the passes leave them; the last is the first again
   u32 chirp;                 // c_j, or 0 where the length needs none
   u32 filter;                // transform of the conjugate chirp over size, in the order of the passes

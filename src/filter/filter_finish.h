@@ -49,14 +49,16 @@ private:
   Vec<s32> half_, mask_;
 };
 
-// For 8u and 0 < d <= kLargest. Up to 256.5d the quotient in single precision, of two roundings and a rounded
-// reciprocal, has an error below 256.5 * 2^-23 < 1 / (2d); what lies outside saturates either way. To round, half a
-// divisor is added: (d - 1) / 2 + 1/2 for an odd one, which has no ties, d / 2 + 1/2 for an even one.
-template <class Rounding>
+// For 0 < d <= kLargestSingle. Up to the quotients q that do not saturate, 256.5 for 8u and 32769.5 for 16s, the
+// quotient in single precision, of two roundings and a rounded reciprocal, has an error below q * 2^-23 < 1 / (2d);
+// what lies beyond saturates either way. To round, half a divisor is added: (d - 1) / 2 + 1/2 for an odd one, which has
+// no ties, d / 2 + 1/2 for an even one. Sums of 16s are divided by their magnitude.
+template <class T>
+inline constexpr s32 kLargestSingle = sizeof(T) == 1 ? 8192 : 100;
+
+template <class T, class Rounding>
 class DivideSingle {
 public:
-  static constexpr s32 kLargest = 8192;
-
   explicit DivideSingle(const FilterSpec& s)
       : bias_(Vec<f32>::splat(static_cast<f32>(kRoundsUp<Rounding> ? s.divisor / 2 : 0) + 0.5f)),
         half_(Vec<f32>::splat(s.divisorFloat / 2)),
@@ -64,6 +66,16 @@ public:
         reciprocal_(Vec<f32>::splat(s.reciprocal)) {}
 
   RNX_INLINE Vec<s32> operator()(Vec<s32> sum) const {
+    if constexpr (std::is_unsigned_v<T>) {
+      return divide(sum);
+    } else {
+      const Vec<s32> negative = greater(Vec<s32>::zero(), sum);
+      return (divide((sum ^ negative) - negative) ^ negative) - negative;
+    }
+  }
+
+private:
+  RNX_INLINE Vec<s32> divide(Vec<s32> sum) const {
     const Vec<f32> a = toFloat(sum);
     const Vec<s32> up = truncateToInt((a + bias_) * reciprocal_);
     if constexpr (!kTiesToEven<Rounding>) return up;
@@ -71,7 +83,6 @@ public:
     return up - (up & tie & Vec<s32>::splat(1));
   }
 
-private:
   Vec<f32> bias_, half_, divisor_, reciprocal_;
 };
 
@@ -267,13 +278,12 @@ SumTwoRows<s32, T> sumPairsOf(const FilterSpec& s) {
   if (s.divisorMode == DivisorMode::kPowerOfTwo) {
     return sumPairsBy<T, Next, Shift<Zero>, Shift<Even>, Shift<Away>>(s.roundMode);
   }
-  if constexpr (sizeof(T) == 1) {
-    using SingleAway = DivideSingle<Away>;
-    if (s.divisor > 0 && s.divisor <= SingleAway::kLargest) {
-      // Without ties the two ways to nearest are one.
-      return s.divisor % 2 == 0 ? sumPairsBy<T, Next, DivideSingle<Zero>, DivideSingle<Even>, SingleAway>(s.roundMode)
-                                : sumPairsBy<T, Next, DivideSingle<Zero>, SingleAway, SingleAway>(s.roundMode);
-    }
+  if (s.divisor > 0 && s.divisor <= kLargestSingle<T>) {
+    using ToZero = DivideSingle<T, Zero>;
+    using ToNearest = DivideSingle<T, Away>;
+    // Without ties the two ways to nearest are one.
+    return s.divisor % 2 == 0 ? sumPairsBy<T, Next, ToZero, DivideSingle<T, Even>, ToNearest>(s.roundMode)
+                              : sumPairsBy<T, Next, ToZero, ToNearest, ToNearest>(s.roundMode);
   }
   return sumPairsBy<T, Next, DivideDouble<Zero, kNegativeIsZero>, DivideDouble<Even, kNegativeIsZero>,
                     DivideDouble<Away, kNegativeIsZero>>(s.roundMode);

@@ -58,13 +58,20 @@ RNX_INLINE void endRow(Unit* row, s64 n, s64 results) {
 }
 
 template <class Unit, class T>
+RNX_INLINE Vec<Unit> loadUnit(const T* in) {
+  if constexpr (std::is_same_v<Unit, T>) {
+    return Vec<Unit>::load(in);
+  } else {
+    return loadAsFloat(in);
+  }
+}
+
+template <class Unit, class T>
 RNX_INLINE void makeRow(const BorderedImage<T>& image, s64 y, Unit* memory, const Unit* constant, s64 results) {
   const T* row = image.row(y);
-  constexpr int kGroup = kStepOf<T, Unit>;
-  convertRow<kGroup>(
+  convertRow<Vec<Unit>::kLanes>(
       image.inMemory(memory), row, row, image.elements(),
-      [](Unit * out, const T* in, const T*)
-          __attribute__((always_inline)) { widenTo<Unit>(Block<T, kGroup>::load(in)).store(out); });
+      [](Unit * out, const T* in, const T*) __attribute__((always_inline)) { loadUnit<Unit>(in).store(out); });
   image.produceSides(memory, constant);
   endRow(memory, image.borderedElements(), results);
 }

@@ -13,9 +13,10 @@ namespace {
 using namespace simd;
 
 constexpr int kOne = 16384, kShift = 14;
-// Elements of a strip, so that its tables stay well below the first cache.
+// Elements of a strip: its tables take some 40 KiB of the stack. Long rows are kinder to the memory than short tables
+// to the first cache.
 template <class T>
-constexpr s64 kStripElements = 2048 / sizeof(T);
+constexpr s64 kStripElements = 6144 / sizeof(T);
 
 // ---- 8u: 16-bit lanes ----
 //
@@ -185,11 +186,9 @@ public:
       case 2:
         return ties_ ? resampleRow<2, true>(bytes, row) : resampleRow<2, false>(bytes, row);
       default:
-        break;
+        collectPairs(src);
+        return ties_ ? resampleRow<0, true>(picks_, row) : resampleRow<0, false>(picks_, row);
     }
-    collectPairs(src);
-    bytes = reinterpret_cast<const u8*>(pairs_);
-    return ties_ ? resampleRow<1, true>(bytes, row) : resampleRow<1, false>(bytes, row);
   }
 
 private:
@@ -264,23 +263,23 @@ private:
     });
   }
 
-  // Without windows the pairs are collected one by one, and the blocks lie in order.
+  // Without windows the pairs are collected one by one, in the place of the picks, and the blocks lie in order.
   void placePairs() {
-    for (s64 q = 0; q < blocks(); ++q) {
-      const s64 slot = slotForNarrowing(q);
-      bases_[slot] = q * kBlockBytes;
-      for (int i = 0; i < kBlockBytes; ++i) picks_[slot * kBlockBytes + i] = static_cast<u8>(i);
-    }
+    for (s64 q = 0; q < blocks(); ++q) bases_[slotForNarrowing(q)] = q * kBlockBytes;
   }
 
   void collectPairs(const T* src) {
-    T* pair = pairs_;
+    u8* pair = picks_;
+    const auto append = [&](T value) {
+      __builtin_memcpy(pair, &value, sizeof(T));
+      pair += sizeof(T);
+    };
     for (s64 column = 0; column < elements_ / C; ++column) {
-      const T* p0 = src + first(column) * C;
-      const T* p1 = src + second(column) * C;
-      for (int c = 0; c < C; ++c) *pair++ = p0[c], *pair++ = p1[c];
+      const T* p0 = core::at(src, 0, first(column) * C);
+      const T* p1 = core::at(src, 0, second(column) * C);
+      for (int c = 0; c < C; ++c) append(p0[c]), append(p1[c]);
     }
-    for (T* end = pairs_ + 2 * vectors() * kVectorElements; pair < end; ++pair) *pair = 0;
+    for (const u8* end = picks_ + vectors() * kVectorElements * kPairBytes; pair < end;) append(0);
   }
 
   template <int Windows, bool Ties>
@@ -306,7 +305,6 @@ private:
   static constexpr s64 kMostBlocks = kStripElements<T> / kBlockElements + 2 * kBlocksPerVector;
   s64 bases_[kMostBlocks];
   alignas(kBytes) u8 picks_[kMostBlocks * kBlockBytes];
-  alignas(kBytes) T pairs_[2 * (kStripElements<T> + kVectorElements)];
 };
 
 // ---- The vertical pass ----

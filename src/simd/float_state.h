@@ -3,6 +3,8 @@
 // caller's state, flags included, is what it was when the call returns.
 #pragma once
 
+#include <emmintrin.h>
+
 #include <type_traits>
 
 #include "core/types.h"
@@ -23,7 +25,8 @@ public:
   FloatState& operator=(const FloatState&) = delete;
 
   // f(values...) under this state. The compiler does not know that arithmetic depends on the state; operands and result
-  // that pass through here keep it from moving the arithmetic out. A kernel called through a pointer needs no such care.
+  // that pass through here keep it from moving the arithmetic out. A kernel called through a pointer needs no such
+  // care.
   template <class F, class... Values>
   f64 compute(F f, Values... values) const {
     (pin(values), ...);
@@ -37,6 +40,9 @@ private:
 
   u32 callers_;
 };
+
+// Without the library call for negative numbers.
+inline f64 squareRoot(f64 v) { return _mm_cvtsd_f64(_mm_sqrt_sd(_mm_setzero_pd(), _mm_set_sd(v))); }
 
 // What a call on elements of these types needs.
 struct NoFloatState {};

@@ -34,9 +34,10 @@ RNX_INLINE Vec<u8> loadBlocks(const u8* row, const s64* bases) {
 #endif
 }
 
-// One vector of gathered bytes from the table entries of its blocks.
+// One vector of gathered bytes from the table entries of its blocks; with no windows the blocks as they are.
 template <int Windows>
-RNX_INLINE Vec<u8> gatherBytes(const u8* row, const s64* bases, const u8* picks) {
+RNX_INLINE Vec<u8> gatherBytes(const u8* row, const s64* bases, [[maybe_unused]] const u8* picks) {
+  if constexpr (Windows == 0) return loadBlocks(row, bases);
   const Vec<u8> stored = Vec<u8>::load(picks);
   Vec<u8> result = shuffleInBlocks(loadBlocks(row, bases), stored);
   for (int k = 1; k < Windows; ++k) {

@@ -1,18 +1,26 @@
-// Halves of vectors in memory.
+// Halves and quarters of vectors in memory.
 #pragma once
 
-#include "simd/vec.h"
+#include "simd/convert.h"
 
 namespace rnx::simd {
 namespace {
 
 #if RNX_VECTOR_BYTES == 32
 RNX_INLINE __m128i loadHalf(const void* p) { return _mm_loadu_si128(static_cast<const __m128i*>(p)); }
+RNX_INLINE __m128i loadQuarter(const void* p) { return _mm_loadl_epi64(static_cast<const __m128i*>(p)); }
 RNX_INLINE Vec<f64> loadHalfAsDouble(const f32* p) { return {_mm256_cvtps_pd(_mm_loadu_ps(p))}; }
 #else
 RNX_INLINE __m128i loadHalf(const void* p) { return _mm_loadl_epi64(static_cast<const __m128i*>(p)); }
+RNX_INLINE __m128i loadQuarter(const void* p) { return _mm_loadu_si32(p); }
 RNX_INLINE Vec<f64> loadHalfAsDouble(const f32* p) { return {_mm_cvtps_pd(_mm_castsi128_ps(loadHalf(p)))}; }
 #endif
+
+// As many elements as a vector of floats has lanes. All of them are exact.
+RNX_INLINE Vec<f32> loadAsFloat(const f32* p) { return Vec<f32>::load(p); }
+RNX_INLINE Vec<f32> loadAsFloat(const u8* p) { return toFloat(Vec<s32>::of(RNX_MM(cvtepu8_epi32)(loadQuarter(p)))); }
+RNX_INLINE Vec<f32> loadAsFloat(const u16* p) { return toFloat(Vec<s32>::of(RNX_MM(cvtepu16_epi32)(loadHalf(p)))); }
+RNX_INLINE Vec<f32> loadAsFloat(const s16* p) { return toFloat(Vec<s32>::of(RNX_MM(cvtepi16_epi32)(loadHalf(p)))); }
 
 // The lower half of the vector.
 template <class T>

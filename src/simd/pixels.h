@@ -1,8 +1,8 @@
 // Whole pixels of several channels, and folding a comparison of their channels to one byte per pixel.
 //
-// A block is as many pixels as a vector has bytes. Each 16-byte lane of the vectors works on 16 pixels that lie together:
-// vector j holds bytes 16 j ... 16 j + 15 of its own 16 pixels, so that packs, shifts and shuffles that stay in a lane
-// bring the pixels out in order.
+// A block is as many pixels as a vector has bytes. Each 16-byte lane of the vectors works on 16 pixels that lie
+// together: vector j holds bytes 16 j ... 16 j + 15 of its own 16 pixels, so that packs, shifts and shuffles that stay
+// in a lane bring the pixels out in order.
 #pragma once
 
 #include "simd/rows.h"
@@ -99,15 +99,13 @@ RNX_INLINE Vec<u8> foldPixels<4>(const Vec<u8>* bytes) {
 template <>
 RNX_INLINE Vec<u8> foldPixels<3>(const Vec<u8>* bytes) {
   const Int b0 = bytes[0].bits(), b1 = bytes[1].bits(), b2 = bytes[2].bits();
-  const auto all = [](Int a, Int b, Int c) RNX_INLINE_LAMBDA {
-    return Vec<u8>::of(a) & Vec<u8>::of(b) & Vec<u8>::of(c);
-  };
+  const auto all = [](Int a, Int b, Int c)
+                       RNX_INLINE_LAMBDA { return Vec<u8>::of(a) & Vec<u8>::of(b) & Vec<u8>::of(c); };
   const Vec<u8> t0 = all(b0, RNX_MM(alignr_epi8)(b1, b0, 1), RNX_MM(alignr_epi8)(b1, b0, 2));
   const Vec<u8> t1 = all(b1, RNX_MM(alignr_epi8)(b2, b1, 1), RNX_MM(alignr_epi8)(b2, b1, 2));
   const Vec<u8> t2 = all(b2, RNX_MM(alignr_epi8)(b2, b2, 1), RNX_MM(alignr_epi8)(b2, b2, 2));
-  const auto gather = [](Vec<u8> t, __m128i from) RNX_INLINE_LAMBDA {
-    return Vec<u8>::of(RNX_MM(shuffle_epi8)(t.bits(), inEachLane(from)));
-  };
+  const auto gather = [](Vec<u8> t, __m128i from)
+                          RNX_INLINE_LAMBDA { return Vec<u8>::of(RNX_MM(shuffle_epi8)(t.bits(), inEachLane(from))); };
   return gather(t0, _mm_setr_epi8(0, 3, 6, 9, 12, 15, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1)) |
          gather(t1, _mm_setr_epi8(-1, -1, -1, -1, -1, -1, 2, 5, 8, 11, 14, -1, -1, -1, -1, -1)) |
          gather(t2, _mm_setr_epi8(-1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, 1, 4, 7, 10, 13));

@@ -1,5 +1,5 @@
-// Floating point to integers in memory order: saturation and rounding together. The call has set the rounding direction:
-// nearest for ToZero and ToNearestEven, toward zero for HalfAway.
+// Floating point to integers in memory order: saturation and rounding together. The call has set the rounding
+// direction: nearest for ToZero and ToNearestEven, toward zero for HalfAway.
 #pragma once
 
 #include "simd/cast.h"
@@ -51,8 +51,8 @@ struct ToNearestEven {
   }
 };
 
-// Half is added to the magnitude. The addition truncates, so the largest value below a half stays below 1. The cap comes
-// first and turns what is not a number into the largest value.
+// Half is added to the magnitude. The addition truncates, so the largest value below a half stays below 1. The cap
+// comes first and turns what is not a number into the largest value.
 struct HalfAway {
   template <class V>
   static RNX_INLINE V capped(V v, V high) {
@@ -82,15 +82,13 @@ constexpr D kLargest = static_cast<D>(~kSmallest<D>);
 template <class D, class Rounding, class T, int N>
 RNX_INLINE Block<D, N> roundTo(const Block<T, N>& block) {
   if constexpr (sizeof(D) < 4) {
-    const auto capped = map(block, [](Vec<T> v) RNX_INLINE_LAMBDA {
-      return Rounding::capped(v, Vec<T>::splat(T(kLargest<D>)));
-    });
+    const auto capped =
+        map(block, [](Vec<T> v) RNX_INLINE_LAMBDA { return Rounding::capped(v, Vec<T>::splat(T(kLargest<D>))); });
     return narrowTo<D>(Rounding::toInt(capped));
   } else if constexpr (std::is_same_v<T, f64>) {
     static_assert(std::is_same_v<D, s32>, "limits of 32 bits are exact in double precision");
-    const auto capped = map(block, [](Vec<f64> v) RNX_INLINE_LAMBDA {
-      return Rounding::capped(v, Vec<f64>::splat(2147483647.0));
-    });
+    const auto capped =
+        map(block, [](Vec<f64> v) RNX_INLINE_LAMBDA { return Rounding::capped(v, Vec<f64>::splat(2147483647.0)); });
     return Rounding::toInt(capped);  // what is too small becomes INT_MIN, which is right
   } else if constexpr (std::is_signed_v<D>) {
     return map(block, [](Vec<f32> v) RNX_INLINE_LAMBDA {

@@ -42,6 +42,20 @@ RNX_INLINE void storeChunks(u8* p, [[maybe_unused]] s64 apart, Vec<u8> v) {
 #endif
 }
 
+// The same with Adjacent: the second chunk follows the first.
+template <bool Adjacent>
+RNX_INLINE Vec<u8> loadChunks(const u8* p, s64 apart) {
+  return Adjacent ? Vec<u8>::load(p) : loadChunks(p, apart);
+}
+template <bool Adjacent>
+RNX_INLINE void storeChunks(u8* p, s64 apart, Vec<u8> v) {
+  if constexpr (Adjacent) {
+    v.store(p);
+  } else {
+    storeChunks(p, apart, v);
+  }
+}
+
 // 4, 8 or 16 bytes at the start of the chunks.
 template <int Bytes>
 RNX_INLINE __m128i loadStart(const u8* p) {
@@ -91,12 +105,15 @@ RNX_INLINE Vec<u8> interleaveHigh(Vec<u8> a, Vec<u8> b) {
 template <int Bytes>
 RNX_INLINE void transposeChunks(Vec<u8>* rows) {
   constexpr int kRows = kChunk / Bytes;
+  RNX_UNROLL
   for (int run = 1; run < kRows; run *= 2) {
     Vec<u8> next[kRows];
+    RNX_UNROLL
     for (int i = 0; i < kRows / 2; ++i) {
       next[2 * i] = interleaveLow<Bytes>(rows[i], rows[i + kRows / 2]);
       next[2 * i + 1] = interleaveHigh<Bytes>(rows[i], rows[i + kRows / 2]);
     }
+    RNX_UNROLL
     for (int i = 0; i < kRows; ++i) rows[i] = next[i];
   }
 }
@@ -107,20 +124,21 @@ RNX_INLINE Vec<u8> firstBytes(Vec<u8> a, Vec<u8> b) {
   return Vec<u8>::of(RNX_MM(blend_epi16)(a.bits(), b.bits(), 0xff & (0xff << (Count / 2))));
 }
 
-// Walks the groups of a row of n >= group pixels. `f.compute(x, apart)` reads and computes the group at pixel x and the
-// one `apart` pixels further, `f.store(x, apart, result)` writes them. The groups at the end overlap ones that are
-// written anyway; they are computed before anything is written, which makes that right in place too.
+// Walks the groups of a row of n >= group pixels. `f.compute<adjacent>(x, apart)` reads and computes the group at pixel
+// x and the one `apart` pixels further, `f.store<adjacent>(x, apart, result)` writes them; adjacent: the second group
+// follows the first. The groups at the end overlap ones that are written anyway; they are computed before anything is
+// written, which makes that right in place too.
 template <class F>
 RNX_INLINE void forEachGroup(s64 n, int group, const F& f) {
   const s64 span = s64{group} * kGroups;
-  if (n % span == 0) {
-    for (s64 x = 0; x < n; x += span) f.store(x, group, f.compute(x, group));
-    return;
-  }
+  const auto body = [&]() __attribute__((always_inline)) {
+    for (s64 x = 0; x + span <= n; x += span) f.template store<true>(x, group, f.template compute<true>(x, group));
+  };
+  if (n % span == 0) return body();
   const s64 last = std::max<s64>(n - span, 0), apart = n - group - last;
-  const auto tail = f.compute(last, apart);
-  for (s64 x = 0; x + span <= n; x += span) f.store(x, group, f.compute(x, group));
-  f.store(last, apart, tail);
+  const auto tail = f.template compute<false>(last, apart);
+  body();
+  f.template store<false>(last, apart, tail);
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ std::vector<const CheckRule*> rulesOf(const Signature& s) {
   std::vector<const CheckRule*> rules;
   for (std::string_view token : s.checkList()) {
     const CheckRule* rule = checkRule(token);
-    if (rule != nullptr) rules.push_back(rule);
+    if (rule != nullptr && rule->violations != nullptr) rules.push_back(rule);
   }
   return rules;
 }

@@ -14,16 +14,14 @@ void number(ValidCall& valid, size_t index) {
   valid.call().setAt(index, N);
 }
 
-// Where a later parameter of the role has to be the larger one.
-void rising(ValidCall& valid, size_t index) { valid.call().setAt(index, index); }
-
 template <s64 N>
 void size(ValidCall& valid, size_t index) {
   static const RnxiSizeL large = {N, N};
-  if (valid.call().signature().isLong) {
+  const RnxiSize plain = {static_cast<int>(N), static_cast<int>(N)};
+  if (valid.call().signature().parameters()[index].isPointer()) {
     valid.call().setAt(index, &large);
   } else {
-    valid.call().setAt(index, RnxiSize{static_cast<int>(N), static_cast<int>(N)});
+    valid.call().setAt(index, plain);
   }
 }
 
@@ -32,34 +30,79 @@ void channelOrder(ValidCall& valid, size_t index) {
   valid.call().setAt(index, order);
 }
 
+void valueRange(ValidCall& valid, size_t index) {  // vMin, vMax
+  valid.call().setAt(index, valid.call().signature().parameters()[index].name == "vMax" ? 1 : 0);
+}
+
+void filterDataType(ValidCall& valid, size_t index) {
+  valid.call().setAt(index, valid.call().signature().types == "64f" ? rnx64f : rnx8u);
+}
+
+// The spec of a 3 x 3 kernel for the function's own images.
+void filterSpec(ValidCall& valid, size_t index) {
+  auto* spec = reinterpret_cast<RnxiFilterBorderSpec*>(valid.memory());
+  const Element e = valid.call().signature().source();
+  constexpr RnxiSize kKernel = {3, 3};
+  if (e == Element::k64f) {
+    constexpr f64 kOnes[9] = {1, 1, 1, 1, 1, 1, 1, 1, 1};
+    rnxiFilterBorderInit_64f(kOnes, kKernel, rnx64f, 1, rnxRoundNearestEven, spec);
+  } else {
+    constexpr f32 kOnes[9] = {1, 1, 1, 1, 1, 1, 1, 1, 1};
+    rnxiFilterBorderInit_32f(kOnes, kKernel, e == Element::k32f ? rnx32f : rnx8u, 1, rnxRoundNearestEven, spec);
+  }
+  valid.call().setAt(index, spec);
+}
+
 struct RoleValue {
   std::string_view role;
   SetRole set;
 };
-
-// Numbers. Where a layout makes an array of the role, it is memory like any other.
-constexpr RoleValue kNumbers[] = {
-    {"value", number<1>},    {"one_value", number<1>},  {"fourth", number<1>},
-    {"alpha", number<1>},    {"threshold", number<1>},  {"threshold_value", number<1>},
-    {"levels", number<1>},   {"muladd", number<2>},     {"scale", number<0>},
-    {"power", number<0>},    {"round", number<1>},      {"anyround", number<1>},
-    {"hint", number<0>},     {"cacheflags", number<0>}, {"flip", number<0>},
-    {"relation", number<0>}, {"cmpop", number<0>},      {"top", number<2>},
-    {"left", number<2>},     {"bits_src", number<0>},   {"bits_dst", number<0>},
-    {"outside", rising},     {"range", rising},
-};
-constexpr RoleValue kOthers[] = {
+constexpr RoleValue kRoles[] = {
+    {"value", number<1>},
+    {"one_value", number<1>},
+    {"fourth", number<1>},
+    {"scale", number<0>},
+    {"round", number<1>},
+    {"flip", number<0>},
+    {"cacheflags", number<0>},
     {"order", channelOrder},
+    {"threshold", number<1>},
+    {"outside", number<1>},
+    {"cmpop", number<0>},
+    {"relation", number<0>},
+    {"anyround", number<1>},
+    {"power", number<0>},
+    {"hint", number<0>},
+    {"muladd", number<2>},
+    {"range", valueRange},
+    {"alpha", number<1>},
+    {"pixelwidth", number<5>},
+    {"pixelheight", number<5>},
     {"srcroi", size<ValidCall::kSize>},
     {"dstroi", size<ValidCall::kLarge>},
+    {"top", number<2>},
+    {"left", number<2>},
+    {"filterdatatype", filterDataType},
+    {"filterkerneltype", number<rnx16s>},
+    {"filterchannels", number<1>},
+    {"filterround", number<rnxRoundNearestEven>},
+    {"filterdivisor", number<2>},
+    {"filterhint", number<0>},
+    {"filteroffset", number<0>},
+    {"filterspec", filterSpec},
+    {"bordertype", number<rnxBorderConst>},
+    {"bits_src", number<0>},  // their bit offsets
+    {"bits_dst", number<0>},
+    {"threshold_value", number<1>},
+    {"levels", number<1>},
 };
 
-// Null where the value follows from the C type.
+// Steps, and pointers where the role is a number or an array of them, have values that follow from the C type.
 const RoleValue* find(const Parameter& p) {
-  if (const auto other = std::ranges::find(kOthers, p.role, &RoleValue::role); other != std::end(kOthers)) return other;
-  if (p.isPointer() || p.isStep()) return nullptr;
-  const auto number = std::ranges::find(kNumbers, p.role, &RoleValue::role);
-  return number == std::end(kNumbers) ? nullptr : number;
+  const auto found = std::ranges::find(kRoles, p.role, &RoleValue::role);
+  if (found == std::end(kRoles) || p.isStep()) return nullptr;
+  const bool isNumber = found->set == number<0> || found->set == number<1> || found->set == number<2>;
+  return p.isPointer() && isNumber ? nullptr : found;
 }
 
 bool hasDefault(const Parameter& p) { return p.isPointer() || p.isStep() || p.type == "RnxiSize"; }

@@ -18,13 +18,13 @@ struct Violation {
 struct CheckRule {
   std::string_view token;
   RnxStatus status;
-  std::vector<Violation> (*violations)(const Signature&);
+  std::vector<Violation> (*violations)(const Signature&);  // null: the family's own suite tests it
 };
 
 // Null where no rule is known.
 const CheckRule* checkRule(std::string_view token);
 
-// Exports whose arguments depend on each other (specs, sizes that were asked for): their own suites test the checks.
+// Exports whose arguments have to fit a spec or sizes that were asked for: their own suites test the checks.
 bool hasChecksOfItsOwn(const Signature& signature);
 
 }  // namespace rnx::test

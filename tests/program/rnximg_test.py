@@ -210,6 +210,139 @@ class Operations(ProgramTest):
         self.process("in.png", "-o", "out.png", "difference", "other.png")
         self.assertEqual(self.read("out.png"), convert(ramp(1), lambda p: (abs(p[0] - 9),)))
 
+    def test_filters(self):
+        binomial = [[1, 2, 1], [2, 4, 2], [1, 2, 1]]
+        skew = [[0, 1, 2, 3], [5, -1, 0, 2]]
+        (self.folder / "kernel.txt").write_text("0 1 2 3\n5, -1 0 2\n\n")
+        cases = [
+            ("filter 1,2,1/2,4,2/1,2,1", binomial, 16, 0, round),
+            ("blur 1", binomial, 16, 0, round),
+            ("filter kernel.txt", skew, 12, 0, round),
+            ("filter kernel.txt divisor 8 round zero", skew, 8, 0, int),
+            ("filter 0.25,0.5,0.25", [[1, 2, 1]], 4, 0, round),
+            ("sharpen", [[0, -1, 0], [-1, 5, -1], [0, -1, 0]], 1, 0, round),
+            ("edges", [[-1, -1, -1], [-1, 8, -1], [-1, -1, -1]], 1, 0, round),
+            ("emboss", [[2, 1, 0], [1, 0, -1], [0, -1, -2]], 1, 128, round),
+        ]
+        for channels in (1, 3, 4):
+            image = ramp(channels, 20, 9)
+            self.write("in.png", image)
+            for words, kernel, divisor, offset, rounding in cases:
+                with self.subTest(words, channels=channels):
+                    self.process("in.png", "-o", "out.png", *words.split())
+                    self.assertEqual(self.read("out.png"), filtered(image, kernel, divisor, offset, rounding))
+
+
+def filtered(image, kernel, divisor, offset, rounding):
+    """Convolution with the edge pixels repeated; alpha stays."""
+    height, width, kh, kw = len(image), len(image[0]), len(kernel), len(kernel[0])
+
+    def level(x, y, c):
+        total = 0
+        for j in range(kh):
+            row = image[min(max(y - (kh - 1) // 2 + j, 0), height - 1)]
+            for i in range(kw):
+                total += kernel[kh - 1 - j][kw - 1 - i] * row[min(max(x - (kw - 1) // 2 + i, 0), width - 1)][c]
+        return min(max(rounding(Fraction(total, divisor) + offset), 0), 255)
+
+    return [
+        [(*(level(x, y, c) for c in range(min(len(p), 3))), *p[3:]) for x, p in enumerate(row)]
+        for y, row in enumerate(image)
+    ]
+
+
+def transposed(rows):
+    return [list(column) for column in zip(*rows)]
+
+
+def bordered(rows, width, position):
+    """position(p, n): the row or column that comes to p, from -width on."""
+    places = lambda n: [position(p, n) for p in range(-width, n + width)]
+    return [[rows[y][x] for x in places(len(rows[0]))] for y in places(len(rows))]
+
+
+class Geometry(ProgramTest):
+    def test_every_operation(self):
+        for channels in (1, 3, 4):
+            rows = ramp(channels, 9, 7)
+            self.write("in.png", rows)
+            for words, expected in {
+                "flip horizontal": rows[::-1],
+                "flip vertical": [row[::-1] for row in rows],
+                "flip both": [row[::-1] for row in rows[::-1]],
+                "flip main": transposed(rows),
+                "flip second": transposed([row[::-1] for row in rows[::-1]]),
+                "transpose": transposed(rows),
+                "rotate 90": transposed(rows[::-1]),
+                "rotate 180": [row[::-1] for row in rows[::-1]],
+                "rotate 270": transposed(rows)[::-1],
+                "crop 2 1 5 4": [row[2:7] for row in rows[1:5]],
+                "border replicate 3": bordered(rows, 3, lambda p, n: min(max(p, 0), n - 1)),
+                "border mirror 3": bordered(rows, 3, lambda p, n: min(abs(p), 2 * n - 2 - abs(p))),
+            }.items():
+                with self.subTest(words, channels=channels):
+                    self.process("in.png", "-o", "out.png", *words.split())
+                    self.assertEqual(self.read("out.png"), expected)
+
+    def test_constant_border_is_opaque(self):
+        self.write("in.png", [[(1, 2, 3, 4)]])
+        self.process("in.png", "-o", "out.png", "border", "constant", "1", "9", "8", "7")
+        edge = (9, 8, 7, 255)
+        self.assertEqual(self.read("out.png"), [[edge] * 3, [edge, (1, 2, 3, 4), edge], [edge] * 3])
+
+    def test_channels(self):
+        for channels in (3, 4):
+            rows = ramp(channels)
+            self.write("in.png", rows)
+            self.process("in.png", "-o", "out.png", "swap", "b", "r", "g")
+            self.assertEqual(self.read("out.png"), convert(rows, lambda p: (p[2], p[0], p[1], *p[3:])))
+            self.process("in.png", "-o", "out.png", "extract", "b")
+            self.assertEqual(self.read("out.png"), convert(rows, lambda p: (p[2],)))
+            self.process("in.png", "-o", "out.png", "dropalpha")
+            self.assertEqual(self.read("out.png"), convert(rows, lambda p: p[:3]))
+            self.process("in.png", "-o", "out.png", "extract", "g", "--", "color")
+            self.assertEqual(self.read("out.png"), convert(rows, lambda p: (p[1],) * 3))
+
+    def test_bilevel(self):
+        rows = ramp(1, 19, 5)
+        self.write("in.png", rows)
+        self.process("in.png", "-o", "out.png", "bilevel", "99", "3", "200")
+        self.assertEqual(self.read("out.png"), convert(rows, lambda p: (200 if p[0] > 99 else 3,)))
+
+
+class Resize(ProgramTest):
+    def resized(self, rows, *words):
+        self.write("in.png", rows)
+        self.process("in.png", "-o", "out.png", *words)
+        return self.read("out.png")
+
+    def test_nearest_repeats_and_drops_pixels(self):
+        for channels in (1, 3, 4):
+            rows = ramp(channels, 7, 5)
+            twice = [[p for p in row for _ in range(2)] for row in rows for _ in range(2)]
+            with self.subTest(channels):
+                self.assertEqual(self.resized(rows, "resize", "14x10", "nearest"), twice)
+                self.assertEqual(self.resized(twice, "scale", "0.5", "nearest"), rows)
+
+    def test_linear_keeps_a_size_and_mixes_quarters(self):
+        rows = ramp(3, 9, 4)
+        self.assertEqual(self.resized(rows, "scale", "1"), rows)
+        # centres at -0.25, 0.25, 0.75, 1.25
+        self.assertEqual(self.resized([[(0,), (200,)]] * 2, "resize", "4x2"), [[(0,), (50,), (150,), (200,)]] * 2)
+
+    def test_threads_make_no_difference(self):
+        rows = ramp(3, 50, 41)
+        whole = self.resized(rows, "resize", "73x64")
+        for threads in ("2", "7", "64"):
+            self.assertEqual(self.resized(rows, "--threads", threads, "resize", "73x64"), whole, threads)
+
+    def test_bad_sizes(self):
+        self.write("in.png", ramp(1))
+        for words in (("resize", "7"), ("resize", "0x5"), ("resize", "5x5x5"), ("resize", "5x40000"), ("scale", "0"),
+                      ("scale", "3000"), ("resize", "5x5", "cubic"), ("--threads", "0", "scale", "1")):  # fmt: skip
+            with self.subTest(words):
+                self.assertEqual(self.run_program("in.png", "-o", "out.png", *words).returncode, 2)
+
 
 class Failures(ProgramTest):
     def setUp(self):
@@ -233,6 +366,10 @@ class Failures(ProgramTest):
         for words, part in [
             ("", "INPUT"),
             ("in.png", "-o OUTPUT"),
+            ("in.png -o out.png crop 0 0 99 1", "WIDTH"),
+            ("in.png -o out.png extract a", "no alpha"),
+            ("gray.png -o out.png swap r g b", "gray"),
+            ("in.png -o out.png bilevel 9", "not gray"),
             ("-o out.png", "INPUT"),
             ("in.png -o", "-o"),
             ("in.png -o out.gif", "out.gif"),
@@ -257,6 +394,11 @@ class Failures(ProgramTest):
             ("in.png -o out.png contrast 2 brightness 3", "'brightness'"),
             ("in.png -o out.png divc 3 0 3", "DIVISOR must not be 0"),
             ("in.png -o out.png blend in.png 1.5", "WEIGHT"),
+            ("in.png -o out.png filter 1,2/3", "different lengths"),
+            ("in.png -o out.png filter /", "empty"),
+            ("in.png -o out.png filter 1 divisor 0", "DIVISOR must not be 0"),
+            ("in.png -o out.png filter 1 border wrap", "'wrap'"),
+            ("in.png -o out.png blur 5", "RADIUS"),
             ("gray.png -o out.png addc 1 2 3", "gray"),
             ("in.png -o out.png -- addc 1", "both sides"),
             ("in.png -o out.png addc 1 --", "both sides"),

@@ -1,0 +1,493 @@
+// Row kernels of the reductions.
+#include <bit>
+
+#include "simd/cast.h"
+#include "simd/reduce.h"
+#include "stats/reduce_kernels.h"
+
+namespace rnx::stats {
+namespace {
+
+using namespace simd;
+
+// Vectors that stand apart: three channels repeat every three vectors, one and four in each.
+template <int C>
+constexpr int kApart = C == 3 ? 3 : 1;
+// How often a round adds to each of them.
+template <int C>
+constexpr int kAddsPerRound = kRoundVectors / kApart<C>;
+
+// ---- Terms: what is summed of an element, or of two ----
+
+struct OfImage {
+  template <class T>
+  static RNX_INLINE auto magnitude(Vec<T> v) {
+    if constexpr (std::is_same_v<T, s16>) {
+      return Vec<u16>::of(RNX_MM(abs_epi16)(v.bits()));
+    } else {
+      return v;
+    }
+  }
+  static RNX_INLINE Vec<f32> value(Vec<f32> v) { return v; }
+  static f64 exact(const f32* v, const f32*, s64 i) { return f64{v[i]}; }
+};
+
+struct OfDifference {
+  template <class T>
+  static RNX_INLINE auto magnitude(Vec<T> a, Vec<T> b) {
+    if constexpr (std::is_same_v<T, s16>) {
+      return (max(a, b) - min(a, b)).template as<u16>();  // up to 65535
+    } else {
+      return subSaturated(a, b) | subSaturated(b, a);
+    }
+  }
+  static RNX_INLINE Vec<f32> value(Vec<f32> a, Vec<f32> b) { return a - b; }
+  static f64 exact(const f32* a, const f32* b, s64 i) { return f64{a[i]} - f64{b[i]}; }
+};
+
+// ---- Totals by channel of lanes that stand for every stride-th element ----
+
+template <int C>
+struct Totals {
+  u64 of[C] = {};
+
+  template <class T>
+  void add(Vec<T> lanes, int first, int stride) {
+    for (int j = 0; j < Vec<T>::kLanes; ++j) of[(first + j * stride) % C] += static_cast<u64>(lanes.raw[j]);
+  }
+  void deliver(f64* results, u64 weight = 1) const {
+    for (int c = 0; c < C; ++c) results[c] = static_cast<f64>(static_cast<s64>(of[c] * weight));
+  }
+};
+
+// Sums of 16-bit terms, each standing for one of `stride` elements, `offset` behind the first.
+template <int C, int kElements>
+class WordSums {
+public:
+  static constexpr int kRounds = PairSum<u16>::kMostTerms / kAddsPerRound<C> / 2;
+
+  RNX_INLINE void add(int k, Vec<u16> terms) { sums_[k % kApart<C>].add(terms); }
+  // After so many additions to each.
+  RNX_INLINE void count(int added, Totals<C>& totals, int stride, int offset) {
+    pending_ += added;
+    if (pending_ > PairSum<u16>::kMostTerms / 2) spill(totals, stride, offset);
+  }
+  void spill(Totals<C>& totals, int stride, int offset) {
+    for (int p = 0; p < kApart<C>; ++p) {
+      const int first = p * kElements + offset;
+      totals.add(sums_[p].low(), first, 2 * stride);
+      totals.add(sums_[p].high(), first + stride, 2 * stride);
+      sums_[p] = {};
+    }
+    pending_ = 0;
+  }
+
+private:
+  PairSum<u16> sums_[kApart<C>];
+  int pending_ = 0;
+};
+
+// ---- Accumulators ----
+
+// Sums of bytes: into 16 bits, then into 32, then into the totals.
+template <int C>
+class ByteSums {
+public:
+  static constexpr int kRounds = PairSum<u8>::kMostTerms / kAddsPerRound<C>;
+
+  RNX_INLINE void add(int k, Vec<u8> terms) { sums_[k % kApart<C>].add(terms); }
+  RNX_INLINE void flush(int) {
+    for (int p = 0; p < kApart<C>; ++p) {
+      even_.add(p, sums_[p].low());
+      odd_.add(p, sums_[p].high());
+      sums_[p] = {};
+    }
+    even_.count(1, totals_, 2, 0);
+    odd_.count(1, totals_, 2, 1);
+  }
+  void deliver(f64* results) {
+    even_.spill(totals_, 2, 0);
+    odd_.spill(totals_, 2, 1);
+    totals_.deliver(results);
+  }
+
+private:
+  PairSum<u8> sums_[kApart<C>];
+  WordSums<C, Vec<u8>::kLanes> even_, odd_;
+  Totals<C> totals_;
+};
+
+template <>
+class ByteSums<1> {
+public:
+  static constexpr int kRounds = 1 << 20;
+  RNX_INLINE void add(int k, Vec<u8> terms) { sums_[k % 2] = sums_[k % 2] + sumOfBytes(terms); }
+  RNX_INLINE void flush(int) {}
+  void deliver(f64* results) {
+    Totals<1> totals;
+    totals.add(sums_[0] + sums_[1], 0, 1);
+    totals.deliver(results);
+  }
+
+private:
+  Vec<u64> sums_[2] = {};
+};
+
+template <int C>
+class Words {
+public:
+  static constexpr int kRounds = WordSums<C, Vec<u16>::kLanes>::kRounds;
+
+  RNX_INLINE void add(int k, Vec<u16> terms) { sums_.add(k, terms); }
+  RNX_INLINE void flush(int rounds) { sums_.count(rounds * kAddsPerRound<C>, totals_, 1, 0); }
+  void deliver(f64* results) {
+    sums_.spill(totals_, 1, 0);
+    totals_.deliver(results);
+  }
+
+private:
+  WordSums<C, Vec<u16>::kLanes> sums_;
+  Totals<C> totals_;
+};
+
+// Squares of bytes are words, of even and odd elements apart.
+template <int C>
+class ByteSquares {
+public:
+  static constexpr int kRounds = WordSums<C, Vec<u8>::kLanes>::kRounds;
+
+  RNX_INLINE void add(int k, Vec<u8> terms) {
+    const Vec<u16> even = terms.as<u16>() & Vec<u16>::splat(0xff), odd = {terms.as<u16>().raw >> 8};
+    even_.add(k, even * even);
+    odd_.add(k, odd * odd);
+  }
+  RNX_INLINE void flush(int rounds) {
+    even_.count(rounds * kAddsPerRound<C>, totals_, 2, 0);
+    odd_.count(rounds * kAddsPerRound<C>, totals_, 2, 1);
+  }
+  void deliver(f64* results) {
+    even_.spill(totals_, 2, 0);
+    odd_.spill(totals_, 2, 1);
+    totals_.deliver(results);
+  }
+
+private:
+  WordSums<C, Vec<u8>::kLanes> even_, odd_;
+  Totals<C> totals_;
+};
+
+// Four squares of bytes a lane: below 2^18, so 2^14 of them fit.
+template <>
+class ByteSquares<1> {
+public:
+  static constexpr int kRounds = 16384 / kRoundVectors;
+  RNX_INLINE void add(int, Vec<u8> terms) {
+    const Vec<u16> even = terms.as<u16>() & Vec<u16>::splat(0xff), odd = {terms.as<u16>().raw >> 8};
+    sums_ = sums_ + (sumOfSquares(even) + sumOfSquares(odd));
+  }
+  RNX_INLINE void flush(int) {
+    const Vec<u64> lanes = sums_.as<u64>();
+    wide_ = wide_ + (lanes & Vec<u64>::splat(0xffffffff)) + Vec<u64>{lanes.raw >> 32};
+    sums_ = Vec<u32>::zero();
+  }
+  void deliver(f64* results) {
+    Totals<1> totals;
+    totals.add(wide_, 0, 1);
+    totals.deliver(results);
+  }
+
+private:
+  Vec<u32> sums_ = Vec<u32>::zero();
+  Vec<u64> wide_ = Vec<u64>::zero();
+};
+
+// Squares of words: the upper and the lower halves of the products.
+template <int C>
+class WordSquares {
+public:
+  static constexpr int kRounds = WordSums<C, Vec<u16>::kLanes>::kRounds;
+
+  RNX_INLINE void add(int k, Vec<u16> terms) {
+    low_.add(k, terms * terms);
+    high_.add(k, upperProduct(terms, terms));
+  }
+  RNX_INLINE void flush(int rounds) {
+    low_.count(rounds * kAddsPerRound<C>, lowTotals_, 1, 0);
+    high_.count(rounds * kAddsPerRound<C>, highTotals_, 1, 0);
+  }
+  void deliver(f64* results) {
+    low_.spill(lowTotals_, 1, 0);
+    high_.spill(highTotals_, 1, 0);
+    for (int c = 0; c < C; ++c) lowTotals_.of[c] += highTotals_.of[c] << 16;
+    lowTotals_.deliver(results);
+  }
+
+private:
+  WordSums<C, Vec<u16>::kLanes> low_, high_;
+  Totals<C> lowTotals_, highTotals_;
+};
+
+// The largest of each lane. Floats come as the bits of their magnitudes, which as integers are in the same order; what
+// is not a number is above infinity.
+template <int C, class T>
+class Largest {
+public:
+  static constexpr int kRounds = 1 << 20;
+
+  RNX_INLINE void add(int k, Vec<T> terms) { lanes_[k % kApart<C>] = max(lanes_[k % kApart<C>], terms); }
+  RNX_INLINE void flush(int) {}
+  void deliver(f64* results) {
+    T largest[C] = {};
+    for (int p = 0; p < kApart<C>; ++p) {
+      for (int j = 0; j < Vec<T>::kLanes; ++j) {
+        T& most = largest[(p * Vec<T>::kLanes + j) % C];
+        most = lanes_[p].raw[j] > most ? T(lanes_[p].raw[j]) : most;
+      }
+    }
+    for (int c = 0; c < C; ++c) {
+      if constexpr (std::is_same_v<T, s32>) {
+        results[c] = f64{std::bit_cast<f32>(largest[c])};
+      } else {
+        results[c] = static_cast<f64>(largest[c]);
+      }
+    }
+  }
+
+private:
+  Vec<T> lanes_[kApart<C>] = {};
+};
+
+// Floats in single precision for eight rounds, which costs a relative error of seven roundings, then in double. The 24
+// lanes of a round are the same at every width.
+template <int C>
+class FloatSums {
+public:
+  static constexpr int kRounds = 8;
+  static constexpr int kLanes = kRoundBytes / static_cast<int>(sizeof(f32));
+
+  RNX_INLINE void add(int k, Vec<f32> terms) { sums_[k] = sums_[k] + terms; }
+  RNX_INLINE void flush(int) {
+    for (int k = 0; k < kRoundVectors; ++k) {
+      const auto wide = spreadDouble(sums_[k]);
+      for (int j = 0; j < 2; ++j) {
+        f64* total = totals_ + k * Vec<f32>::kLanes + j * Vec<f64>::kLanes;
+        (Vec<f64>::load(total) + wide.v[j]).store(total);
+      }
+      sums_[k] = Vec<f32>::zero();
+    }
+  }
+  void deliver(f64* results) const {
+    for (int c = 0; c < C; ++c) {
+      results[c] = 0;
+      for (int lane = c; lane < kLanes; lane += C) results[c] += totals_[lane];
+    }
+  }
+
+private:
+  Vec<f32> sums_[kRoundVectors] = {};
+  f64 totals_[kLanes] = {};
+};
+
+// ---- Operations: from an element to a term ----
+
+RNX_INLINE Vec<f32> absolute(Vec<f32> v) { return {RNX_MM(and_ps)(v.raw, Vec<s32>::splat(INT32_MAX).as<f32>().raw)}; }
+
+// Elements with their sign moved into the unsigned range.
+template <class T>
+RNX_INLINE auto unsignedRange(Vec<T> v) {
+  if constexpr (std::is_same_v<T, s16>) {
+    return v.template as<u16>() ^ Vec<u16>::splat(0x8000);
+  } else {
+    return v;
+  }
+}
+
+template <class T, int C>
+struct SumAccumulator {
+  using Type = Words<C>;
+};
+template <int C>
+struct SumAccumulator<u8, C> {
+  using Type = ByteSums<C>;
+};
+template <int C>
+struct SumAccumulator<f32, C> {
+  using Type = FloatSums<C>;
+};
+
+template <class T, int C>
+struct SquareAccumulator {
+  using Type = WordSquares<C>;
+};
+template <int C>
+struct SquareAccumulator<u8, C> {
+  using Type = ByteSquares<C>;
+};
+template <int C>
+struct SquareAccumulator<f32, C> {
+  using Type = FloatSums<C>;
+};
+
+struct Sum {
+  template <class T, int C>
+  using Accumulator = typename SumAccumulator<T, C>::Type;
+  template <class Of, class T>
+  static RNX_INLINE auto term(Vec<T> v) {
+    return unsignedRange(v);
+  }
+};
+
+struct Absolutes {
+  template <class T, int C>
+  using Accumulator = typename SumAccumulator<T, C>::Type;
+  template <class Of, class T, class... More>
+  static RNX_INLINE auto term(Vec<T> v, More... more) {
+    if constexpr (std::is_same_v<T, f32>) {
+      return absolute(Of::value(v, more...));
+    } else {
+      return Of::magnitude(v, more...);
+    }
+  }
+};
+
+struct Squares {
+  template <class T, int C>
+  using Accumulator = typename SquareAccumulator<T, C>::Type;
+  template <class Of, class T, class... More>
+  static RNX_INLINE auto term(Vec<T> v, More... more) {
+    if constexpr (std::is_same_v<T, f32>) {
+      const Vec<f32> value = Of::value(v, more...);
+      return value * value;
+    } else {
+      return Of::magnitude(v, more...);
+    }
+  }
+};
+
+template <class T>
+using Magnitude = std::conditional_t<std::is_same_v<T, f32>, s32,
+                                     std::make_unsigned_t<std::conditional_t<std::is_same_v<T, f32>, s32, T>>>;
+
+struct LargestOf {
+  template <class T, int C>
+  using Accumulator = Largest<C, Magnitude<T>>;
+  template <class Of, class T, class... More>
+  static RNX_INLINE auto term(Vec<T> v, More... more) {
+    if constexpr (std::is_same_v<T, f32>) {
+      return Of::value(v, more...).template as<s32>() & Vec<s32>::splat(INT32_MAX);
+    } else {
+      return Of::magnitude(v, more...);
+    }
+  }
+};
+
+// ---- Kernels ----
+
+template <class Op, class Of, class T, int C>
+struct Reducer {
+  using Accumulator = typename Op::template Accumulator<T, C>;
+  static constexpr int kRounds = Accumulator::kRounds;
+
+  template <int K, class M, class... V>
+  RNX_INLINE void add(M mask, V... v) {
+    accumulator.add(K, mask(Op::template term<Of>(v...)));
+  }
+  RNX_INLINE void flush(int rounds) { accumulator.flush(rounds); }
+
+  Accumulator accumulator;
+};
+
+template <class Op, class Of, class T, int C>
+void reduce(const ReduceCall<T>& call) {
+  Reducer<Op, Of, T, C> reducer;
+  const ReduceSource<T> first{call.first, call.firstStep};
+  if constexpr (std::is_same_v<Of, OfImage>) {
+    reduceRows(call.width, call.height, reducer, first);
+  } else {
+    reduceRows(call.width, call.height, reducer, first, ReduceSource<T>{call.second, call.secondStep});
+  }
+  reducer.accumulator.deliver(call.results);
+  if constexpr (std::is_same_v<Op, Sum> && std::is_same_v<T, s16>) {
+    for (int c = 0; c < C; ++c) call.results[c] -= 32768.0 * static_cast<f64>(call.width / C * call.height);
+  }
+}
+
+// ---- Floats in double precision, in the order that is promised ----
+
+struct ExactSum {
+  static void add(f64& total, f64 v) { total += v; }
+  static void join(f64& total, f64 part) { total += part; }
+};
+struct ExactAbsolutes : ExactSum {
+  static void add(f64& total, f64 v) { total += __builtin_fabs(v); }
+};
+struct ExactSquares : ExactSum {
+  static void add(f64& total, f64 v) { total += v * v; }
+};
+struct ExactLargest {  // what is not a number stays
+  static void add(f64& most, f64 v) {
+    const f64 magnitude = __builtin_fabs(v);
+    if (magnitude > most || magnitude != magnitude) most = magnitude;
+  }
+  static void join(f64& most, f64 part) { add(most, part); }
+};
+
+template <class Op, class Of, int C>
+void reduceExactly(const ReduceCall<f32>& call) {
+  const f32 *first = call.first, *second = call.second;
+  f64 totals[C] = {};
+  for (s64 y = 0; y < call.height; ++y) {
+    f64 apart[2 * C] = {};  // even pixels, odd pixels
+    s64 i = 0;
+    for (; i + 2 * C <= call.width; i += 2 * C) {
+      for (int c = 0; c < 2 * C; ++c) Op::add(apart[c], Of::exact(first, second, i + c));
+    }
+    for (int c = 0; i < call.width; ++i, ++c) Op::add(apart[c], Of::exact(first, second, i));
+    for (int c = 0; c < C; ++c) {
+      Op::join(apart[c], apart[C + c]);
+      Op::join(totals[c], apart[c]);
+    }
+    first = core::at(first, call.firstStep);
+    if constexpr (std::is_same_v<Of, OfDifference>) second = core::at(second, call.secondStep);
+  }
+  for (int c = 0; c < C; ++c) call.results[c] = totals[c];
+}
+
+template <class Op, class Of, class T>
+constexpr ByChannels<T> kReduce = {reduce<Op, Of, T, 1>, reduce<Op, Of, T, 3>, reduce<Op, Of, T, 4>};
+template <class Op, class Of>
+constexpr ByChannels<f32> kExact = {reduceExactly<Op, Of, 1>, reduceExactly<Op, Of, 3>, reduceExactly<Op, Of, 4>};
+
+template <class T>
+constexpr ReduceKernelsOf<T> kKernels = {
+    .image = {.sum = kReduce<Sum, OfImage, T>,
+              .absolutes = kReduce<Absolutes, OfImage, T>,
+              .squares = kReduce<Squares, OfImage, T>,
+              .largest = kReduce<LargestOf, OfImage, T>},
+    .difference = {.sum = {},
+                   .absolutes = kReduce<Absolutes, OfDifference, T>,
+                   .squares = kReduce<Squares, OfDifference, T>,
+                   .largest = kReduce<LargestOf, OfDifference, T>},
+};
+
+}  // namespace
+
+namespace RNX_WIDTH {
+
+constinit const ReduceKernels reduceKernels = {
+    .of8u = kKernels<u8>,
+    .of16u = kKernels<u16>,
+    .of16s = kKernels<s16>,
+    .of32f = {kKernels<f32>,
+              {.sum = kExact<ExactSum, OfImage>,
+               .absolutes = kExact<ExactAbsolutes, OfImage>,
+               .squares = kExact<ExactSquares, OfImage>,
+               .largest = kExact<ExactLargest, OfImage>},
+              {.sum = {},
+               .absolutes = kExact<ExactAbsolutes, OfDifference>,
+               .squares = kExact<ExactSquares, OfDifference>,
+               .largest = kExact<ExactLargest, OfDifference>}},
+};
+
+}  // namespace RNX_WIDTH
+}  // namespace rnx::stats
