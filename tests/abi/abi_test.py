@@ -65,13 +65,15 @@ class Section:
 
 def symbols(library):
     """(address, size, type, name) of everything that has an address in the library."""
-    found = re.findall(r"^\s*\d+: ([0-9a-f]+)\s+(\S+) (\w+)\s+\w+\s+\w+\s+\d+ (\S+)", tool("readelf", "-sW", str(library)), re.M)
+    line = r"^\s*\d+: ([0-9a-f]+)\s+(\S+) (\w+)\s+\w+\s+\w+\s+\d+ (\S+)"
+    found = re.findall(line, tool("readelf", "-sW", str(library)), re.M)
     return {(int(address, 16), int(size, 0), kind, name) for address, size, kind, name in found}
 
 
 def relocations(library):
     """Offset of every relative relocation, with the address that the loader puts there."""
-    found = re.findall(r"^([0-9a-f]+)\s+\S+ R_X86_64_RELATIVE\s+([0-9a-f]+)", tool("readelf", "-rW", str(library)), re.M)
+    line = r"^([0-9a-f]+)\s+\S+ R_X86_64_RELATIVE\s+([0-9a-f]+)"
+    found = re.findall(line, tool("readelf", "-rW", str(library)), re.M)
     return {int(offset, 16): int(target, 16) for offset, target in found}
 
 

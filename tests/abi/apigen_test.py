@@ -152,7 +152,8 @@ class Mistakes(Generator):
         self.expect("thing.toml", "Thing", "brief", family=self.family('brief = "Does it."', ""))
 
     def test_unknown_shape(self):
-        self.expect("thing.toml", "Thing", "'circle'", family=self.family("[[family.grid]]", 'shapes = "circle"\n[[family.grid]]'))
+        circle = self.family("[[family.grid]]", 'shapes = "circle"\n[[family.grid]]')
+        self.expect("thing.toml", "Thing", "'circle'", family=circle)
 
     def test_neither_shapes_nor_grid(self):
         self.expect("thing.toml", "Thing", family=FAMILY[: FAMILY.index("[[family.grid]]")])

@@ -91,14 +91,20 @@ constexpr RoleValue kRoles[] = {
     {"filteroffset", number<0>},
     {"filterspec", filterSpec},
     {"bordertype", number<rnxBorderConst>},
+    {"bits_src", number<0>},  // their bit offsets
+    {"bits_dst", number<0>},
+    {"threshold_value", number<1>},
+    {"levels", number<1>},
 };
 
-const RoleValue* find(std::string_view role) {
-  const auto found = std::ranges::find(kRoles, role, &RoleValue::role);
-  return found == std::end(kRoles) ? nullptr : found;
+// Steps, and pointers where the role is a number or an array of them, have values that follow from the C type.
+const RoleValue* find(const Parameter& p) {
+  const auto found = std::ranges::find(kRoles, p.role, &RoleValue::role);
+  if (found == std::end(kRoles) || p.isStep()) return nullptr;
+  const bool isNumber = found->set == number<0> || found->set == number<1> || found->set == number<2>;
+  return p.isPointer() && isNumber ? nullptr : found;
 }
 
-// Values for everything else follow from the C type.
 bool hasDefault(const Parameter& p) { return p.isPointer() || p.isStep() || p.type == "RnxiSize"; }
 
 bool isPlanes(const Parameter& p) { return p.type.ends_with("* const*") || p.type.ends_with("**"); }
@@ -108,7 +114,7 @@ bool isPlanes(const Parameter& p) { return p.type.ends_with("* const*") || p.typ
 std::vector<std::string> ValidCall::unknownRoles(const Signature& s) {
   std::vector<std::string> unknown;
   for (const Parameter& p : s.parameters()) {
-    if (find(p.role) == nullptr && !hasDefault(p)) unknown.emplace_back(p.role);
+    if (find(p) == nullptr && !hasDefault(p)) unknown.emplace_back(p.role);
   }
   return unknown;
 }
@@ -116,10 +122,7 @@ std::vector<std::string> ValidCall::unknownRoles(const Signature& s) {
 ValidCall::ValidCall(const Signature& s) : random_(s.name), call_(s) {
   const auto parameters = s.parameters();
   for (size_t i = 0; i < parameters.size(); ++i) {
-    const RoleValue* role = find(parameters[i].role);
-    // The array form of a constant is memory like any other.
-    const bool isArray = parameters[i].isPointer() && role != nullptr && role->set == number<1>;
-    if (role != nullptr && !isArray) {
+    if (const RoleValue* role = find(parameters[i])) {
       role->set(*this, i);
     } else {
       setDefault(i);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <limits>
 #include <memory>
 
 namespace rnx::test {
@@ -209,10 +210,21 @@ Violations crossedThresholds(const Signature& s) {
   return list;
 }
 
-Violations valueRanges(const Signature& s) {
+Violations valueRanges(const Signature&) {
+  constexpr f32 kNaN = std::numeric_limits<f32>::quiet_NaN(), kInfinity = std::numeric_limits<f32>::infinity();
+  const std::pair<f32, f32> ranges[] = {{1, 1}, {0, -0.0f}, {1, 0}, {kNaN, 1}, {0, kNaN}, {kInfinity, kInfinity}};
+  Violations list;
+  for (const auto& [low, high] : ranges) {
+    list.push_back({"range " + std::to_string(low) + " to " + std::to_string(high),
+                    [low, high](Call& call) { call.set("vMin", low).set("vMax", high); }});
+  }
+  return list;
+}
+
+Violations bitOffsets(const Signature& s) {
   Violations list;
   for (const Parameter& p : s.parameters()) {
-    if (p.name == "vMax") appendNumbers(list, p, {0, -1});
+    if (p.name.ends_with("BitOffset")) appendNumbers(list, p, {-1, -8, INT_MIN});
   }
   return list;
 }
@@ -276,6 +288,7 @@ constexpr CheckRule kRules[] = {
     {"thresholds", -19, crossedThresholds},
     {"planes", -8, nulls},
     {"range", -12, valueRanges},
+    {"bitoffset", -6, bitOffsets},
     {"filterquerysizes", -6, nullptr},
     {"filtersizesnull", -8, nullptr},
     {"filtersizeoverflow", -232, nullptr},
@@ -306,7 +319,16 @@ constexpr CheckRule kRules[] = {
     {"fftbuffer", -8, nullptr},
 };
 
+// The tokens of such families start with these.
+constexpr std::string_view kOwnSuites[] = {"fft", "resize_"};
+
 }  // namespace
+
+bool hasChecksOfItsOwn(const Signature& s) {
+  return std::ranges::any_of(s.checkList(), [](std::string_view token) {
+    return std::ranges::any_of(kOwnSuites, [&](std::string_view prefix) { return token.starts_with(prefix); });
+  });
+}
 
 const CheckRule* checkRule(std::string_view token) {
   const auto found = std::ranges::find(kRules, token, &CheckRule::token);

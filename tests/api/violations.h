@@ -24,4 +24,7 @@ struct CheckRule {
 // Null where no rule is known.
 const CheckRule* checkRule(std::string_view token);
 
+// Exports whose arguments have to fit a spec or sizes that were asked for: their own suites test the checks.
+bool hasChecksOfItsOwn(const Signature& signature);
+
 }  // namespace rnx::test
