@@ -108,8 +108,8 @@ void rowsOf8u(Size size) {
     filterRow<Rnx8u, Rnx16s>("8u C4 int", size, 4, rnxiFilterBorder_8u_C4R, k, 3 * k.taps(), kReplicate);
   }
   for (const int divisor : {1, 64}) {
-    filterRow<Rnx8u, Rnx16s>("8u C1 int divisor " + std::to_string(divisor), size, 1, rnxiFilterBorder_8u_C1R, {3, 3}, divisor,
-                             kReplicate);
+    filterRow<Rnx8u, Rnx16s>("8u C1 int divisor " + std::to_string(divisor), size, 1, rnxiFilterBorder_8u_C1R, {3, 3},
+                             divisor, kReplicate);
   }
 }
 

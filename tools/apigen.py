@@ -357,7 +357,7 @@ def definition(term, text):
 
 def comment(lines):
     # An example may hold a comment of its own: its closing mark may not end ours.
-    text = "\n".join("   " + line if line else "" for line in lines).lstrip()
+    text = "\n".join(("   " + line).rstrip() for line in lines).lstrip()
     return "/* " + text.replace("/*", "//").replace(" */", "") + " */\n"
 
 

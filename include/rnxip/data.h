@@ -469,7 +469,7 @@ RnxStatus rnxiCopyReplicateBorder_32f_AC4IR_L(Rnx32f* pSrcDst, Rnx64s srcDstStep
 /* rnxiCopyMirrorBorder: Copies an image and reflects it about its edge pixels, which are not repeated.
 
        border(x, y) = src(m(x, W), m(y, H))        c b|a b c|b a
-       
+
        m(p, n) = p mod (2n - 2), and 2n - 2 minus that where it is n or more; m(p, 1) = 0
 
    One pointer for source and destination means in place with the destination's step; this is looked at before the checks.
@@ -898,10 +898,10 @@ RnxStatus rnxiConvert_32f32u_C1IRSfs(Rnx32u* pSrcDst, int srcDstStep, RnxiSize r
        // crop: 200x100 pixels from column 40, row 30
        RnxiSize roi = {200, 100};
        RnxStatus status = rnxiCopy_8u_C3R(src + 30 * srcStep + 40 * 3, srcStep, dst, dstStep, roi);
-       
+
        // the green channel of an RGB image
        status = rnxiCopy_8u_C3C1R(src + 1, srcStep, gray, grayStep, roi);
-       
+
        Rnx8u* planes[3] = {red, green, blue};
        status = rnxiCopy_8u_C3P3R(src, srcStep, planes, planeStep, roi); */
 

@@ -293,8 +293,8 @@ RNX_INLINE void longRows(const core::Rows& rows, T* dst, s64 dstStep, F& functor
   functor = f;
 }
 
-// The same with the functor in the code once, the vector at the end being the loop's first: for blocks, for functors that
-// say that they are long (kLong), and for layouts with alpha, which would double all code.
+// The same with the functor in the code once, the vector at the end being the loop's first: for blocks, for functors
+// that say that they are long (kLong), and for layouts with alpha, which would double all code.
 template <class Channels, class T, class F, class... Sources>
 RNX_INLINE void longRowsInOneLoop(const core::Rows& rows, T* dst, s64 dstStep, F& functor, Sources... sources) {
   using V = ResultOf<F, Sources...>;
