@@ -45,7 +45,7 @@ struct FullRangeFunctor<u8, s32> {
 };
 
 template <>
-class FullRangeFunctor<u8, f32> {
+struct FullRangeFunctor<u8, f32> {
 public:
   explicit FullRangeFunctor(const ScaleCall& call)
       : low_(Vec<f32>::splat(call.low)), unit_(Vec<f32>::splat((call.high - call.low) / 255.0f)) {}
@@ -61,7 +61,7 @@ private:
 
 // Clamped from above first, so that what is not a number becomes the largest value.
 template <>
-class FullRangeFunctor<f32, u8> {
+struct FullRangeFunctor<f32, u8> {
 public:
   explicit FullRangeFunctor(const ScaleCall& call)
       : low_(Vec<f32>::splat(call.low)),

@@ -279,7 +279,8 @@ private:
       const T* p1 = core::at(src, 0, second(column) * C);
       for (int c = 0; c < C; ++c) append(p0[c]), append(p1[c]);
     }
-    for (const u8* end = picks_ + vectors() * kVectorElements * kPairBytes; pair < end;) append(0);
+    const u8* end = picks_ + vectors() * kVectorElements * kPairBytes;
+    while (pair < end) append(0);
   }
 
   template <int Windows, bool Ties>
