@@ -68,11 +68,11 @@ Violations nulls(const Signature& s) {
   return list;
 }
 
-template <const Claim& kClaim>
+template <size_t kIndex>
 Violations nullOfClaim(const Signature& s) {
   Violations list;
   for (const Parameter& p : s.parameters()) {
-    if (p.role == kClaim.role && p.isPointer()) list.push_back(nullOf(p));
+    if (p.role == kClaims[kIndex].role && p.isPointer()) list.push_back(nullOf(p));
   }
   return list;
 }
@@ -216,7 +216,7 @@ Violations valueRanges(const Signature&) {
   Violations list;
   for (const auto& [low, high] : ranges) {
     list.push_back({"range " + std::to_string(low) + " to " + std::to_string(high),
-                    [low, high](Call& call) { call.set("vMin", low).set("vMax", high); }});
+                    [low = low, high = high](Call& call) { call.set("vMin", low).set("vMax", high); }});
   }
   return list;
 }
@@ -279,9 +279,9 @@ constexpr CheckRule kRules[] = {
     {"flip", -22, mirrorAxes},
     {"square", -6, squareSizes},
     {"border", -6, borderSizes},
-    {"value_null", -8, nullOfClaim<kClaims[0]>},
+    {"value_null", -8, nullOfClaim<0>},
     {"images_null", -8, nulls},
-    {"order_null", -8, nullOfClaim<kClaims[1]>},
+    {"order_null", -8, nullOfClaim<1>},
     {"step_zero", -16, zeroSteps},
     {"order", -60, channelOrders},
     {"cmpop", -14, thresholdSelectors},
