@@ -55,8 +55,10 @@ struct Compare {
 
   RNX_INLINE Vec<u8> operator()(const PixelBlock<T, C>& a, const PixelBlock<T, C>& b) const {
     Mask<T> masks[PixelBlock<T, C>::kVectors];
+    RNX_UNROLL
     for (int j = 0; j < PixelBlock<T, C>::kVectors; ++j) masks[j] = Relation::template holds<T>(a.v[j], b.v[j]);
     Vec<u8> bytes[C];
+    RNX_UNROLL
     for (int c = 0; c < C; ++c) bytes[c] = Channels::relevant(maskBytes(masks + c * static_cast<int>(sizeof(T))));
     return foldPixels<C>(bytes);
   }

@@ -159,8 +159,8 @@ class LeftFunctor {
 public:
   explicit LeftFunctor(const ConvertCall& call)
       : count_(shiftCount(call.shift)),
-        low_(Vec<W>::splat(static_cast<W>((kSmallest<D> >> call.shift) - 1))),
-        high_(Vec<W>::splat(static_cast<W>((kLargest<D> >> call.shift) + 1))) {}
+        low_(Vec<W>::splat(static_cast<W>((s64{kSmallest<D>} >> call.shift) - 1))),
+        high_(Vec<W>::splat(static_cast<W>((s64{kLargest<D>} >> call.shift) + 1))) {}
 
   template <int N>
   RNX_INLINE Block<D, N> operator()(const Block<S, N>& block) const {

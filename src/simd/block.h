@@ -16,18 +16,22 @@ struct Block {
 
   static RNX_INLINE Block zero() {
     Block block;
+    RNX_UNROLL
     for (Vec<T>& v : block.v) v = Vec<T>::zero();
     return block;
   }
   static RNX_INLINE Block load(const T* p) {
     Block block;
+    RNX_UNROLL
     for (int k = 0; k < kVectors; ++k) block.v[k] = Vec<T>::load(p + k * Vec<T>::kLanes);
     return block;
   }
   RNX_INLINE void store(T* p) const {
+    RNX_UNROLL
     for (int k = 0; k < kVectors; ++k) v[k].store(p + k * Vec<T>::kLanes);
   }
   RNX_INLINE void stream(T* p) const {
+    RNX_UNROLL
     for (int k = 0; k < kVectors; ++k) v[k].stream(p + k * Vec<T>::kLanes);
   }
 };
@@ -37,6 +41,7 @@ template <class T, int N, class F>
 RNX_INLINE auto map(const Block<T, N>& block, F f) {
   using U = std::remove_cvref_t<decltype(f(block.v[0]).raw[0])>;
   Block<U, N> result;
+  RNX_UNROLL
   for (int k = 0; k < block.kVectors; ++k) result.v[k] = f(block.v[k]);
   return result;
 }

@@ -74,8 +74,10 @@ RNX_INLINE Block<f64, Vec<s32>::kLanes> spreadDouble(Vec<s32> v) {
 template <class W, class T, int N, class F>
 RNX_INLINE Block<W, N> spreadAll(const Block<T, N>& block, F spread) {
   Block<W, N> result;
+  RNX_UNROLL
   for (int k = 0; k < block.kVectors; ++k) {
     const auto wide = spread(block.v[k]);
+    RNX_UNROLL
     for (int j = 0; j < wide.kVectors; ++j) result.v[k * wide.kVectors + j] = wide.v[j];
   }
   return result;
@@ -132,6 +134,7 @@ RNX_INLINE Block<D, N> narrowTo(const Block<T, N>& block) {
     return map(block, [](Vec<T> v) { return v.template as<D>(); });
   } else {
     Block<D, N> result;
+    RNX_UNROLL
     for (int k = 0; k < result.kVectors; ++k) {
       const Vec<T>* v = block.v + k * kRatio;
       if constexpr (std::is_same_v<T, s16>) {
@@ -169,6 +172,7 @@ RNX_INLINE Vec<s32> nearestInt(Vec<f32> v) { return Vec<s32>::of(RNX_MM(cvtps_ep
 template <int N>
 RNX_INLINE Block<f32, N> narrowToSingle(const Block<f64, N>& block) {
   Block<f32, N> result;
+  RNX_UNROLL
   for (int k = 0; k < result.kVectors; ++k) result.v[k] = narrowToSingle(block.v[2 * k], block.v[2 * k + 1]);
   return result;
 }
@@ -181,6 +185,7 @@ RNX_INLINE Block<s32, N> toInts(const Block<f32, N>& block, F convert) {
 template <int N, class F>
 RNX_INLINE Block<s32, N> toInts(const Block<f64, N>& block, F convert) {
   Block<s32, N> result;
+  RNX_UNROLL
   for (int k = 0; k < result.kVectors; ++k) result.v[k] = convert(block.v[2 * k], block.v[2 * k + 1]);
   return result;
 }

@@ -20,6 +20,7 @@ struct PixelBlock {
     const auto at = [&](int vector) RNX_INLINE_LAMBDA {
       return reinterpret_cast<const __m128i*>(static_cast<const char*>(pixels)) + vector;
     };
+    RNX_UNROLL
     for (int j = 0; j < kVectors; ++j) {
 #if RNX_VECTOR_BYTES == 32
       if constexpr (kVectors == 1) {
@@ -91,6 +92,7 @@ RNX_INLINE Vec<u8> foldPixels<1>(const Vec<u8>* bytes) {
 template <>
 RNX_INLINE Vec<u8> foldPixels<4>(const Vec<u8>* bytes) {
   Mask<u32> m[4];
+  RNX_UNROLL
   for (int j = 0; j < 4; ++j) m[j] = equal(bytes[j].as<u32>(), ~Vec<u32>::zero());
   return maskBytes(m);
 }

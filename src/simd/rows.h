@@ -215,6 +215,7 @@ struct ColorChannels {
   static RNX_INLINE Vec<T> merge(Vec<T> result, Vec<T> old) { return select(colors(), result, old); }
   template <int N>
   static RNX_INLINE Block<T, N> merge(Block<T, N> result, Block<T, N> old) {
+    RNX_UNROLL
     for (int k = 0; k < result.kVectors; ++k) result.v[k] = merge(result.v[k], old.v[k]);
     return result;
   }

@@ -75,10 +75,29 @@ struct Vec {
   }
 };
 
+// The language leaves overflow of signed lanes undefined; here every integer lane wraps: sums are formed of unsigned
+// ones.
+template <class T>
+struct Unsigned : std::make_unsigned<T> {};
+template <>
+struct Unsigned<f32> {
+  using type = f32;
+};
+template <>
+struct Unsigned<f64> {
+  using type = f64;
+};
+template <class T>
+using Wrapping = Vec<typename Unsigned<T>::type>;
+template <class T>
+RNX_INLINE auto wrapping(Vec<T> v) {
+  return v.template as<typename Unsigned<T>::type>().raw;
+}
+
 // clang-format off
-template <class T> RNX_INLINE Vec<T> operator+(Vec<T> a, Vec<T> b) { return {a.raw + b.raw}; }
-template <class T> RNX_INLINE Vec<T> operator-(Vec<T> a, Vec<T> b) { return {a.raw - b.raw}; }
-template <class T> RNX_INLINE Vec<T> operator*(Vec<T> a, Vec<T> b) { return {a.raw * b.raw}; }
+template <class T> RNX_INLINE Vec<T> operator+(Vec<T> a, Vec<T> b) { return Wrapping<T>{wrapping(a) + wrapping(b)}.template as<T>(); }
+template <class T> RNX_INLINE Vec<T> operator-(Vec<T> a, Vec<T> b) { return Wrapping<T>{wrapping(a) - wrapping(b)}.template as<T>(); }
+template <class T> RNX_INLINE Vec<T> operator*(Vec<T> a, Vec<T> b) { return Wrapping<T>{wrapping(a) * wrapping(b)}.template as<T>(); }
 template <class T> RNX_INLINE Vec<T> operator/(Vec<T> a, Vec<T> b) { return {a.raw / b.raw}; }
 template <class T> RNX_INLINE Vec<T> operator&(Vec<T> a, Vec<T> b) { return {a.raw & b.raw}; }
 template <class T> RNX_INLINE Vec<T> operator|(Vec<T> a, Vec<T> b) { return {a.raw | b.raw}; }

@@ -97,6 +97,7 @@ public:
 
   RNX_INLINE void add(int k, Vec<u8> terms) { sums_[k % kApart<C>].add(terms); }
   RNX_INLINE void flush(int) {
+    RNX_UNROLL
     for (int p = 0; p < kApart<C>; ++p) {
       even_.add(p, sums_[p].low());
       odd_.add(p, sums_[p].high());
@@ -267,8 +268,10 @@ public:
 
   RNX_INLINE void add(int k, Vec<f32> terms) { sums_[k] = sums_[k] + terms; }
   RNX_INLINE void flush(int) {
+    RNX_UNROLL
     for (int k = 0; k < kRoundVectors; ++k) {
       const auto wide = spreadDouble(sums_[k]);
+      RNX_UNROLL
       for (int j = 0; j < 2; ++j) {
         f64* total = totals_ + k * Vec<f32>::kLanes + j * Vec<f64>::kLanes;
         (Vec<f64>::load(total) + wide.v[j]).store(total);

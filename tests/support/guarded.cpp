@@ -66,7 +66,7 @@ void Image::forgiveNaN() {
 }
 
 testing::AssertionResult Image::matches(Element element) {
-  const auto equal = [this] { return std::memcmp(begin_, shadow_.data(), shadow_.size()) == 0; };
+  const auto equal = [this] { return std::equal(begin_, end_, shadow_.begin()); };
   if (equal()) return testing::AssertionSuccess();
   if (element == Element::k32f || element == Element::k32fc) forgiveNaN<f32>();
   if (element == Element::k64f) forgiveNaN<f64>();

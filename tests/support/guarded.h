@@ -53,7 +53,7 @@ public:
   u8* shadowRow(s64 y) { return shadow(row(y)); }
   u8* shadow(const void* inside) { return shadow_.data() + (static_cast<const u8*>(inside) - begin_); }
   // Puts back what was there when expectNow() was called, for the next run against the same expectation.
-  void rewind() { std::memcpy(begin_, original_.data(), original_.size()); }
+  void rewind() { std::copy(original_.begin(), original_.end(), begin_); }
 
   // Every byte is as expected. With a float element type any NaN in a row equals any other.
   testing::AssertionResult matches(Element element = Element::k8u);
