@@ -102,7 +102,7 @@ TEST(AlphaPairs, All8u) { checkAllPairs<u8>(rnxiAlphaPremulC_8u_C1R, 1); }
 TEST(AlphaPairs, All16u) {
   std::vector<u16> all(65536), result(65536);
   std::iota(all.begin(), all.end(), u16(0));
-#ifdef __SANITIZE_ADDRESS__
+#ifdef RNXIP_SANITIZED
   constexpr u32 kStep = 257;
 #else
   constexpr u32 kStep = 1;
