@@ -250,8 +250,11 @@ s64 lineRows(s64 n) {
 
 s64 sizeOfPasses(s64 length) { return factorsOf(length).cost < INFINITY ? length : convolutionSize(2 * length - 1); }
 
+// Products of two sizes pass 64 bits as bytes. They stop where no size can be reported any more.
+s64 complexBytes(s64 points) { return std::min(points, s64{1} << 40) * kComplexBytes; }
+
 s64 imageBytes(const Spec& spec) {
-  return s64{spec.width} * spec.height * (spec.isReal != 0 ? kComplexBytes / 2 : kComplexBytes);
+  return complexBytes(s64{spec.width} * spec.height) / (spec.isReal != 0 ? 2 : 1);
 }
 
 void shapeLine(Spec& spec) {
@@ -286,14 +289,14 @@ void shapeImage(Spec& spec) {
   spec.gridHeight = static_cast<s32>(height);
   const s64 longest = std::max(sizeOfPasses(width), sizeOfPasses(height));
   const s64 paddedWidth = (spec.gridWidth + kMostLanes - 1) / kMostLanes * kMostLanes;
-  spec.stripBytes = alignUp(paddedWidth * height * kComplexBytes);
+  spec.stripBytes = alignUp(complexBytes(paddedWidth * height));
   spec.tileBytes = alignUp(kMostLanes * longest * kComplexBytes);
   const s64 need = spec.stripBytes + spec.tileBytes, limit = 2 * imageBytes(spec) + 2 * imageBytes(spec) / height;
   const s64 leastRows = isReal ? 2 * kMostLanes : kMostLanes;
   spec.shape = Shape::kGrid;
   if (height >= leastRows && spec.gridWidth >= kMostLanes && need <= std::max(limit, kStackWork)) return;
   spec.shape = Shape::kNarrow;
-  spec.stripBytes = alignUp(spec.gridWidth * height * kComplexBytes);
+  spec.stripBytes = alignUp(complexBytes(spec.gridWidth * height));
   spec.tileBytes = alignUp(longest * kComplexBytes);
 }
 
