@@ -117,6 +117,14 @@ Contestants floorOf(int64_t bytesMoved) {
   });
 }
 
+Contestants readFloorOf(int64_t bytesRead) {
+  return peer("floor", [bytesRead]() -> Work {
+    const Image<uint8_t> all(bytesRead, 1);
+    std::memset(all.data(), 1, static_cast<size_t>(bytesRead));
+    return [=] { benchmark::DoNotOptimize(std::memchr(all.data(), 0, static_cast<size_t>(bytesRead))); };
+  });
+}
+
 void addRow(const std::string& name, Size size, const std::vector<Contestants>& contestants) {
   for (const Contestants& group : contestants) {
     for (const Contestant& contestant : group) {

@@ -61,6 +61,9 @@ inline Contestants opencv(Maker make) { return peer("opencv", std::move(make)); 
 inline Contestants opencv(const Maker&) { return {}; }
 #endif
 
+// "floor" of what only reads: a search through so many bytes for one that is not there.
+Contestants readFloorOf(int64_t bytesRead);
+
 void addRow(const std::string& name, Size size, const std::vector<Contestants>& contestants);
 
 // Runs a function at start-up, to add rows.
