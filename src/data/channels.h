@@ -108,8 +108,10 @@ inline void planMove(ChannelCall& call) {
   bool mergeable = call.dstStep == call.width * dst.pixelBytes;
   mergeable = mergeable && (src.images == 0 || call.srcStep == call.width * src.pixelBytes);
   call.walk = core::Walk::kVectors;
+  bool apart = true;
   const auto meet = [&](const core::Operand& one, const core::Operand& other) {
     const core::Relation relation = core::relate(one, other, call.height);
+    apart = apart && relation == core::Relation::kApart;
     if (relation == core::Relation::kOverlap) call.walk = core::Walk::kInOrder;
     mergeable = mergeable && (relation == core::Relation::kApart || relation == core::Relation::kIdentical);
   };
@@ -118,6 +120,10 @@ inline void planMove(ChannelCall& call) {
     for (int i = 0; i < src.images; ++i) meet(result, image(call.src[i], call.srcStep, src.spanBytes));
     for (int i = 0; i < j; ++i) meet(result, image(call.dst[i], call.dstStep, dst.spanBytes));
   }
+  // Pixels of which something stays are read: they come into the caches anyway.
+  const bool keeps = std::find(route.from, route.from + route.dstChannels, kKeep) != route.from + route.dstChannels;
+  const s64 bytesMoved = (src.spanBytes * src.images + dst.spanBytes * dst.images) * call.height;
+  if (apart && !keeps && core::exceedsCaches(bytesMoved)) call.walk = core::Walk::kStream;
   if (mergeable) {
     call.width *= call.height;
     call.height = 1;
