@@ -26,20 +26,24 @@ struct Positions {
   alignas(16) s8 at[64];
 };
 
-constexpr Positions positions(const Route& route, int elementBytes) {
+// Of so many pixels of a group, the first ones.
+constexpr Positions positions(const Route& route, int elementBytes, int pixels) {
   Positions result = {};
-  const int groupPixels = 16 / elementBytes;
   for (int c = 0; c < route.dstChannels; ++c) {
     const int from = route.from[c];
     const int srcPitch = route.srcPlanar ? elementBytes : route.srcChannels * elementBytes;
     const int dstPitch = route.dstPlanar ? elementBytes : route.dstChannels * elementBytes;
     int src = from * (route.srcPlanar ? 16 : elementBytes);
     int dst = c * (route.dstPlanar ? 16 : elementBytes);
-    for (int p = 0; p < groupPixels; ++p, src += srcPitch, dst += dstPitch) {
+    for (int p = 0; p < pixels; ++p, src += srcPitch, dst += dstPitch) {
       for (int b = 0; b < elementBytes; ++b) result.at[dst + b] = static_cast<s8>(from < 0 ? from : src + b);
     }
   }
   return result;
+}
+
+constexpr Positions positions(const Route& route, int elementBytes) {
+  return positions(route, elementBytes, 16 / elementBytes);
 }
 
 struct ChannelCall {

@@ -35,11 +35,14 @@ constexpr Reach<In, Out> kReach;
 // How the sides lie in memory. Pixels on both sides keep a byte near its place.
 enum class Order { kPixels, kToPlanes, kFromPlanes };
 
+// kChunk / elementBytes without a division.
+int elementsOfChunk(const ChannelCall& call) { return kChunk >> (call.elementBytes >> 1); }
+
 // Pixels of four channels on both sides are whole in every chunk: a group is one chunk of them.
 template <int In, int Out>
 int groupPixels(const ChannelCall& call) {
   const bool fours = In <= 1 && Out == 1 && call.route->dstChannels == 4;
-  return kChunk / call.elementBytes / (fours ? 4 : 1);
+  return elementsOfChunk(call) / (fours ? 4 : 1);
 }
 
 template <int In, int Out, Order O, bool Keeps>
@@ -205,7 +208,7 @@ void move(const ChannelCall& call) {
 // The same for rows of chunks of every channel.
 template <class Rows>
 void moveBy(const ChannelCall& call) {
-  moveRows<Rows>(call, kChunk / call.elementBytes);
+  moveRows<Rows>(call, elementsOfChunk(call));
 }
 
 }  // namespace

@@ -223,7 +223,10 @@ bool validOrder(const int* order, unsigned limit) {
 template <class T>
 void reorder(const Route& route, ChannelKernel ChannelKernels::*kernel, const T* src, int srcStep, T* dst, int dstStep,
              RnxiSize roi, T value = {}) {
-  const Positions at = positions(route, sizeof(T));
+  // With four channels a chunk holds whole pixels, and all chunks are alike.
+  constexpr int kElement = sizeof(T);
+  const bool fours = route.srcChannels == 4 || route.dstChannels == 4;
+  const Positions at = positions(route, kElement, (fours ? 4 : 16) / kElement);
   ChannelCall call = {.width = roi.width,
                       .height = roi.height,
                       .walk = core::Walk::kVectors,

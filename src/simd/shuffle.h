@@ -217,7 +217,7 @@ RNX_INLINE __m128i turnChunk(__m128i v) {
 
 // ---- Rows ----
 
-// Walks the groups of a row of n >= group pixels. `f.compute<adjacent>(x, apart)` reads and computes the group at pixel
+// Walks the groups of a row of n >= group pixels; `group` is a power of two. `f.compute<adjacent>(x, apart)` reads and computes the group at pixel
 // x and the one `apart` pixels further, `f.store<adjacent, stream>(x, apart, result)` writes them; adjacent: the second
 // group follows the first. The groups at the end overlap ones that are written anyway; they are computed before
 // anything is written, which makes that right in place too.
@@ -237,7 +237,7 @@ RNX_INLINE void forEachGroup(s64 n, int group, const F& f) {
       f.template store<true, false>(x, group, f.template compute<true>(x, group));
     }
   };
-  if (n % span == 0) return body();
+  if ((n & (span - 1)) == 0) return body();
   const s64 last = std::max<s64>(n - span, 0), apart = n - group - last;
   const auto tail = f.template compute<false>(last, apart);
   body();
