@@ -39,7 +39,8 @@ public:
 
   // The bits before the row's first one go through the accumulator like those of pixels.
   void row(const T* src, u8* dst, s64 n, int offset) const {
-    u64 before = *dst & ((1u << offset) - 1);
+    const u32 outside = (1u << offset) - 1;
+    u64 before = *dst & outside;
     if (offset == 0) {
       for (; n >= kWord; n -= kWord, src += kWord, dst += kWord / 8) put(dst, word(src));
     } else {
@@ -49,8 +50,11 @@ public:
         before = bits >> (kWord - offset);
       }
     }
+    if (n == 0) {
+      if (offset > 0) *dst = static_cast<u8>((*dst & ~outside) | before);
+      return;
+    }
     const int rest = static_cast<int>(n), count = offset + rest;  // up to 70
-    if (count == 0) return;
     const u64 bits = part(src, rest);
     const int whole = std::min(count, kWord) / 8;
     storeBytes(dst, bits << offset | before, whole);

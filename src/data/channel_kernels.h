@@ -26,24 +26,52 @@ struct Positions {
   alignas(16) s8 at[64];
 };
 
-// Of so many pixels of a group, the first ones.
-constexpr Positions positions(const Route& route, int elementBytes, int pixels) {
+constexpr Positions positions(const Route& route, int elementBytes) {
   Positions result = {};
+  const int groupPixels = 16 / elementBytes;
   for (int c = 0; c < route.dstChannels; ++c) {
     const int from = route.from[c];
     const int srcPitch = route.srcPlanar ? elementBytes : route.srcChannels * elementBytes;
     const int dstPitch = route.dstPlanar ? elementBytes : route.dstChannels * elementBytes;
     int src = from * (route.srcPlanar ? 16 : elementBytes);
     int dst = c * (route.dstPlanar ? 16 : elementBytes);
-    for (int p = 0; p < pixels; ++p, src += srcPitch, dst += dstPitch) {
+    for (int p = 0; p < groupPixels; ++p, src += srcPitch, dst += dstPitch) {
       for (int b = 0; b < elementBytes; ++b) result.at[dst + b] = static_cast<s8>(from < 0 ? from : src + b);
     }
   }
   return result;
 }
 
-constexpr Positions positions(const Route& route, int elementBytes) {
-  return positions(route, elementBytes, 16 / elementBytes);
+// The first chunk of it, at run time, for pixel orders with four channels on one side or both: chunks hold whole pixels
+// and are all alike. All bytes of a pixel are formed at once; from pixel to pixel the positions grow by a source pixel.
+template <int ElementBytes, int Channels>  // of the destination
+inline void firstPositions(const Route& route, Positions& result) {
+  constexpr u32 kOnes = ElementBytes == 4 ? 0x01010101 : ElementBytes == 2 ? 0x0101 : 1;
+  constexpr u32 kAscending = ElementBytes == 4 ? 0x03020100 : ElementBytes == 2 ? 0x0100 : 0;
+  constexpr int kElementBits = 8 * ElementBytes, kPixelBits = Channels * kElementBits;
+  u64 words[3] = {};
+  if constexpr (ElementBytes == 4) {
+    for (int c = 0; c < Channels; ++c) {
+      const int from = route.from[c];
+      const u32 element = from < 0 ? kOnes * static_cast<u8>(from) : kOnes * static_cast<u8>(from * 4) + kAscending;
+      words[c / 2] |= u64{element} << c % 2 * kElementBits;
+    }
+  } else {
+    u64 pixel = 0, growth = 0;
+    for (int c = 0; c < Channels; ++c) {
+      const int from = route.from[c];
+      const u32 element =
+          from < 0 ? kOnes * static_cast<u8>(from) : kOnes * static_cast<u8>(from * ElementBytes) + kAscending;
+      const u32 step = from < 0 ? 0 : kOnes * static_cast<u8>(route.srcChannels * ElementBytes);
+      pixel |= u64{element} << c * kElementBits;
+      growth |= u64{step} << c * kElementBits;
+    }
+    for (int bit = 0; bit < 4 / ElementBytes * kPixelBits; bit += kPixelBits, pixel += growth) {
+      words[bit / 64] |= pixel << bit % 64;
+      if (bit % 64 + kPixelBits > 64) words[bit / 64 + 1] |= pixel >> (64 - bit % 64);
+    }
+  }
+  __builtin_memcpy(result.at, words, 16);
 }
 
 struct ChannelCall {

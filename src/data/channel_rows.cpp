@@ -178,6 +178,21 @@ void movePixels(const ChannelCall& call, s64 y, s64 first, s64 end) {
   return movePixels<u32>(call, y, first, end);
 }
 
+// The last pixel of a row behind a channel pointer: one element.
+void moveLastElement(const ChannelCall& call, s64 y) {
+  const s64 last = (call.width - 1) * call.elementBytes;
+  const u8* src =
+      call.route->from[0] < 0 ? call.value : core::at(call.src[0], y * call.srcStep + last * call.route->srcChannels);
+  u8* dst = core::at(call.dst[0], y * call.dstStep + last * call.route->dstChannels);
+  if (call.elementBytes == 1) {
+    *dst = *src;
+  } else if (call.elementBytes == 2) {
+    __builtin_memcpy(dst, src, 2);
+  } else {
+    __builtin_memcpy(dst, src, 4);
+  }
+}
+
 template <class Rows>
 RNX_INLINE void moveRows(const ChannelCall& call, int group) {
   // Behind a channel pointer the last pixel of a row ends with the channel: it is moved alone.
@@ -195,7 +210,7 @@ RNX_INLINE void moveRows(const ChannelCall& call, int group) {
     } else {
       forEachGroup(whole, group, rows);
     }
-    if (whole < call.width) movePixels(call, y, whole, call.width);
+    if (whole < call.width) moveLastElement(call, y);
   }
   if (stream) endStream();
 }

@@ -120,10 +120,12 @@ inline void planMove(ChannelCall& call) {
     for (int i = 0; i < src.images; ++i) meet(result, image(call.src[i], call.srcStep, src.spanBytes));
     for (int i = 0; i < j; ++i) meet(result, image(call.dst[i], call.dstStep, dst.spanBytes));
   }
-  // Pixels of which something stays are read: they come into the caches anyway.
-  const bool keeps = std::find(route.from, route.from + route.dstChannels, kKeep) != route.from + route.dstChannels;
   const s64 bytesMoved = (src.spanBytes * src.images + dst.spanBytes * dst.images) * call.height;
-  if (apart && !keeps && core::exceedsCaches(bytesMoved)) call.walk = core::Walk::kStream;
+  if (apart && core::exceedsCaches(bytesMoved)) {
+    // Pixels of which something stays are read: they come into the caches anyway.
+    const bool keeps = std::find(route.from, route.from + route.dstChannels, kKeep) != route.from + route.dstChannels;
+    if (!keeps) call.walk = core::Walk::kStream;
+  }
   if (mergeable) {
     call.width *= call.height;
     call.height = 1;
@@ -223,10 +225,14 @@ bool validOrder(const int* order, unsigned limit) {
 template <class T>
 void reorder(const Route& route, ChannelKernel ChannelKernels::*kernel, const T* src, int srcStep, T* dst, int dstStep,
              RnxiSize roi, T value = {}) {
-  // With four channels a chunk holds whole pixels, and all chunks are alike.
-  constexpr int kElement = sizeof(T);
-  const bool fours = route.srcChannels == 4 || route.dstChannels == 4;
-  const Positions at = positions(route, kElement, (fours ? 4 : 16) / kElement);
+  Positions at;
+  if (route.dstChannels == 4) {
+    firstPositions<sizeof(T), 4>(route, at);
+  } else if (route.srcChannels == 4) {
+    firstPositions<sizeof(T), 3>(route, at);
+  } else {
+    at = positions(route, sizeof(T));
+  }
   ChannelCall call = {.width = roi.width,
                       .height = roi.height,
                       .walk = core::Walk::kVectors,
