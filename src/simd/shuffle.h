@@ -142,6 +142,12 @@ RNX_INLINE void transposeChunks(Vec<u8>* rows) {
   }
 }
 
+// The chunks from byte Count on, continued with the next ones.
+template <int Count>
+RNX_INLINE Vec<u8> nextBytes(Vec<u8> chunks, Vec<u8> next) {
+  return Vec<u8>::of(RNX_MM(alignr_epi8)(next.bits(), chunks.bits(), Count));
+}
+
 // The first Count bytes of the chunks of a, the rest of b. Count is even.
 template <int Count>
 RNX_INLINE Vec<u8> firstBytes(Vec<u8> a, Vec<u8> b) {
