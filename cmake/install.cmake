@@ -16,3 +16,8 @@ file(RELATIVE_PATH RNXIP_PREFIX_FROM_PC "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/"
 string(REGEX REPLACE "/$" "" RNXIP_PREFIX_FROM_PC "${RNXIP_PREFIX_FROM_PC}")
 configure_file(cmake/rnxip.pc.in ${PROJECT_BINARY_DIR}/rnxip.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/rnxip.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+
+# The Python binding, with the table of exports beside it.
+set(RNXIP_PYTHON_DIR "lib/python3/dist-packages" CACHE STRING "Where Python packages are installed, below the prefix")
+install(DIRECTORY python/rnxip DESTINATION ${RNXIP_PYTHON_DIR} FILES_MATCHING PATTERN "*.py")
+install(FILES ${GENERATED}/table.json DESTINATION ${RNXIP_PYTHON_DIR}/rnxip)

@@ -7,13 +7,14 @@ file(GLOB API_FILES CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/api/*.toml)
 
 set(GENERATED_FILES
   ${GENERATED}/dispatch_includes.inc ${GENERATED}/dispatch_fields.inc ${GENERATED}/dispatch_values.inc ${GENERATED}/entries.inc
-  ${GENERATED}/signatures.inc ${GENERATED}/exports.map)
+  ${GENERATED}/signatures.inc ${GENERATED}/exports.map ${GENERATED}/table.json)
 add_custom_command(
   OUTPUT ${GENERATED}/apigen.stamp
   BYPRODUCTS ${GENERATED_FILES}
   COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tools/apigen.py --check --generate ${GENERATED}
   COMMAND ${CMAKE_COMMAND} -E touch ${GENERATED}/apigen.stamp
   DEPENDS ${API_FILES} ${PROJECT_SOURCE_DIR}/tools/apigen.py ${PROJECT_SOURCE_DIR}/abi/exports.txt
+    ${PROJECT_SOURCE_DIR}/include/rnxip/types.h
   COMMENT "Expanding the table of exports"
   VERBATIM)
 add_custom_target(apigen DEPENDS ${GENERATED}/apigen.stamp)

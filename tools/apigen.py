@@ -396,9 +396,16 @@ def build_files(table):
         "signatures.inc": "".join(signature_entry(e) for e in exports),
     }
     files = {name: (GENERATED if name != "entries.inc" else "") + text for name, text in files.items()}
+    files["table.json"] = json.dumps({"statuses": statuses(), "exports": as_json(table)}, separators=(",", ":"))
     names = "".join(f"    {e.name};\n" for e in exports)
     files["exports.map"] = f"{{\n  global:\n{names}  local: *;\n}};\n"
     return files
+
+
+def statuses():
+    """Names and numbers, from the header that declares them."""
+    text = (ROOT / "include/rnxip/types.h").read_text()
+    return {name: int(number) for name, number in re.findall(r"^ *(rnxStatus\w+) = (-?\d+)", text, re.MULTILINE)}
 
 
 def slot_field(e):

@@ -147,6 +147,7 @@ RnxStatus rnxiFilterBorderSetMode(int hint, int offset, RnxiFilterBorderSpec* pS
      rnxStatusBadStep: srcStep below 1, or dstStep below the bytes of a row of the ROI
      rnxStatusBadBorderType: border above 255, or neither rnxBorderInMem nor of the kinds rnxBorderRepl,
          rnxBorderMirror, rnxBorderConst
+     rnxStatusBadContext: pSpec was never filled by an Init function
 
    Example
        RnxiSize roi = {640, 480};

@@ -58,6 +58,7 @@ RnxStatus filterBorder(const T* src, int srcStep, T* dst, int dstStep, RnxiSize 
   if (!acceptedByFilters(border)) return rnxStatusBadBorderType;
 
   const auto* spec = core::alignedIn<const FilterSpec>(specBlock);
+  if (!isSpec(*spec)) return rnxStatusBadContext;
   // A buffer that was measured for elements of 4 bytes is too small for 64f: any result will do, none is the safe one.
   if (std::is_same_v<T, f64> && spec->kind != KernelKind::kDouble64f) return rnxStatusNoError;
 

@@ -77,6 +77,14 @@ inline const PairTaps* pairsOf(const FilterSpec* spec) {
   return reinterpret_cast<const PairTaps*>(kernelOf<f64>(spec) + taps(spec->width, spec->height));
 }
 
+// Whether a block can be a spec at all: one that was never filled is refused rather than followed.
+inline bool isSpec(const FilterSpec& spec) {
+  const auto kind = static_cast<u32>(spec.kind);
+  constexpr u32 kKinds = 0b11111011;  // 2 is never made
+  return kind <= static_cast<u32>(KernelKind::kDouble64f) && (kKinds >> kind & 1) != 0 && spec.width >= 1 &&
+         spec.height >= 1;
+}
+
 // ---- Sizes ----
 
 inline s64 round64(s64 bytes) { return core::roundUp(bytes, core::kSpecAlignment); }

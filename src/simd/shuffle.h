@@ -101,6 +101,16 @@ RNX_INLINE Vec<u8> shuffle(Vec<u8> v, Vec<u8> index) {
   return Vec<u8>::of(RNX_MM(shuffle_epi8)(v.bits(), index.bits()));
 }
 
+// The fourth element of each pixel, of bytes or words, in all words of the pixel.
+RNX_INLINE Vec<u16> fourthAsWords(Vec<u32> pixels) {
+  const auto index = everyGroup(_mm_setr_epi8(3, -1, 3, -1, 7, -1, 7, -1, 11, -1, 11, -1, 15, -1, 15, -1));
+  return shuffle(pixels.as<u8>(), index).as<u16>();
+}
+RNX_INLINE Vec<u16> fourthAsWords(Vec<u64> pixels) {
+  const auto index = everyGroup(_mm_setr_epi8(6, 7, 6, 7, 6, 7, 6, 7, 14, 15, 14, 15, 14, 15, 14, 15));
+  return shuffle(pixels.as<u8>(), index).as<u16>();
+}
+
 // Positions in a group, counted from its first chunk, as a shuffle index into chunk number `chunk`: those that lie
 // elsewhere, negative ones included, give 0. Positions are at most 63.
 RNX_INLINE Vec<u8> indexInto(int chunk, Vec<u8> positions) {

@@ -270,6 +270,21 @@ Violations filterSteps(const Signature& s) {
 // Of the kind whose value must not be null, so that the earlier check stands beside this one.
 Violations borderTypes(const Signature& s) { return numbersOf(s, "bordertype", {0x106, 0x1f6, 0x7ffffff6}); }
 
+// Blocks that no Init function has seen: zeros, and a kernel of no columns.
+Violations filterContexts(const Signature&) {
+  static const std::array<int, 128> kZeros = {};
+  static const std::array<int, 128> kNoColumns = [] {
+    std::array<int, 128> words;
+    for (size_t i = 0; i < words.size(); ++i) words[i] = i % 2 == 0 ? 3 : 0;  // at any multiple of 8 the block begins
+    return words;
+  }();
+  Violations list;
+  for (const auto* block : {&kZeros, &kNoColumns}) {
+    list.push_back({"a spec that was never filled", [block](Call& call) { call.set("pSpec", block->data()); }});
+  }
+  return list;
+}
+
 constexpr CheckRule kRules[] = {
     {"null", -8, nulls},
     {"size", -6, sizes},
@@ -303,6 +318,7 @@ constexpr CheckRule kRules[] = {
     {"filternull", -8, nulls},
     {"filtersteps", -16, filterSteps},
     {"bordertype", -225, borderTypes},
+    {"filtercontext", -13, filterContexts},
     // Of functions with specs: tested by kernel/fft_test.cpp.
     {"fftsizeout", -8, nullptr},
     {"fftabsurdorder", -17, nullptr},
