@@ -23,17 +23,17 @@ struct Functions {
 };
 
 struct Plan {
-  std::shared_ptr<Rnx8u> spec, buffer;
+  Rnx8u *spec = nullptr, *buffer = nullptr;
 
   Plan(Size from, Size to, int channels, decltype(&rnxiResizeNearestInit_8u) init) {
     int specBytes = 0, initBytes = 0, bufferBytes = 0;
     rnxiResizeGetSize_8u(from.roi(), to.roi(), rnxLinear, 0, &specBytes, &initBytes);
-    spec.reset(static_cast<Rnx8u*>(allocate(specBytes)), free);
+    spec = static_cast<Rnx8u*>(allocate(specBytes));
     init(from.roi(), to.roi(), get());
     rnxiResizeGetBufferSize_8u(get(), to.roi(), channels, &bufferBytes);
-    buffer.reset(static_cast<Rnx8u*>(allocate(bufferBytes)), free);
+    buffer = static_cast<Rnx8u*>(allocate(bufferBytes));
   }
-  RnxiResizeSpec* get() const { return reinterpret_cast<RnxiResizeSpec*>(spec.get()); }
+  RnxiResizeSpec* get() const { return reinterpret_cast<RnxiResizeSpec*>(spec); }
 };
 
 template <class T>
@@ -82,9 +82,9 @@ void rowsOf(const Functions<T>& f, Size from, Size to) {
       return [=] {
         if (isLinear) {
           f.linear(src.data(), src.step(), dst.data(), dst.step(), {0, 0}, to.roi(), rnxBorderRepl, nullptr, plan.get(),
-                   plan.buffer.get());
+                   plan.buffer);
         } else {
-          f.nearest(src.data(), src.step(), dst.data(), dst.step(), {0, 0}, to.roi(), plan.get(), plan.buffer.get());
+          f.nearest(src.data(), src.step(), dst.data(), dst.step(), {0, 0}, to.roi(), plan.get(), plan.buffer);
         }
       };
     };

@@ -12,7 +12,6 @@
 
 #include <cstdint>
 #include <functional>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -62,6 +61,9 @@ inline Contestants opencv(Maker make) { return peer("opencv", std::move(make)); 
 inline Contestants opencv(const Maker&) { return {}; }
 #endif
 
+// "floor" of what only reads: a search through so many bytes for one that is not there.
+Contestants readFloorOf(int64_t bytesRead);
+
 void addRow(const std::string& name, Size size, const std::vector<Contestants>& contestants);
 
 // Runs a function at start-up, to add rows.
@@ -76,27 +78,28 @@ public:
   Image(Size size, int channels) : Image(int64_t{size.width} * channels, size.height) {}
   Image(int64_t elementsPerRow, int64_t rows);
 
-  T* data() const { return data_.get(); }
+  T* data() const { return data_; }
   int step() const { return static_cast<int>(perRow_ * static_cast<int64_t>(sizeof(T))); }
   int64_t elements() const { return perRow_ * rows_; }
 
 private:
   int64_t perRow_, rows_;
-  std::shared_ptr<T> data_;
+  T* data_;
 };
 
 void fillRandom(void* memory, int64_t bytes);
 void fillRandom(float* values, int64_t count);
 void fillRandom(double* values, int64_t count);
-void* allocate(int64_t bytes);
+void* allocate(int64_t bytes);  // until freeAll, which the next contestant calls
+void freeAll();
 
 template <class T>
 Image<T>::Image(int64_t elementsPerRow, int64_t rows) : perRow_(elementsPerRow), rows_(rows) {
-  data_ = std::shared_ptr<T>(static_cast<T*>(allocate(elements() * static_cast<int64_t>(sizeof(T)))), free);
+  data_ = static_cast<T*>(allocate(elements() * static_cast<int64_t>(sizeof(T))));
   if constexpr (std::is_floating_point_v<T>) {
-    fillRandom(data_.get(), elements());
+    fillRandom(data_, elements());
   } else {
-    fillRandom(static_cast<void*>(data_.get()), elements() * static_cast<int64_t>(sizeof(T)));
+    fillRandom(static_cast<void*>(data_), elements() * static_cast<int64_t>(sizeof(T)));
   }
 }
 

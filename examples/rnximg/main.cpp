@@ -1,4 +1,5 @@
 // rnximg: runs a chain of library operations on a picture.
+#include <algorithm>
 #include <cstdio>
 #include <exception>
 #include <optional>
@@ -21,7 +22,8 @@ constexpr char kNotes[] =
     "with alpha, which the operations leave as it is and JPEG drops. Results saturate at 0 and 255. A second image\n"
     "(FILE) has the size of the first one; its channels are converted when it is read.\n"
     "\n"
-    "  -o OUTPUT     where to write; nothing is written unless everything went well\n"
+    "  -o OUTPUT     where to write; nothing is written unless everything went well. Not needed after operations that\n"
+    "                only print figures, such as stats\n"
     "  --quality N   of JPEG, 1 to 100; 92 if not given\n"
     "  --threads N   for operations that can share their work, 1 to 64; 1 if not given\n"
     "\n"
@@ -48,6 +50,12 @@ auto naming(std::string_view word, Work work) {
     failure.message = std::string(word) + ": " + failure.message;
     throw;
   }
+}
+
+// Whether there is nothing to write: all operations only print figures.
+bool onlyReports(const Command& command) {
+  const auto reports = [](const Step& step) { return step.operation->onlyReports; };
+  return !command.steps.empty() && std::all_of(command.steps.begin(), command.steps.end(), reports);
 }
 
 Command parse(const std::vector<std::string>& words) {
@@ -80,8 +88,11 @@ Command parse(const std::vector<std::string>& words) {
   }
   if (!command.steps.empty() && !inStep) failUsage("an operation must stand on both sides of --");
   if (command.input.empty()) failUsage("no INPUT is given (see rnximg --help)");
-  if (command.output.empty()) failUsage("no output is given: -o OUTPUT");
-  checkOutputName(command.output);
+  if (!command.output.empty()) {
+    checkOutputName(command.output);
+  } else if (!onlyReports(command)) {
+    failUsage("no output is given: -o OUTPUT");
+  }
   return command;
 }
 
@@ -94,7 +105,7 @@ void run(const Command& command) {
       arguments.finish();
     });
   }
-  writeImage(image, command.output, command.quality);
+  if (!command.output.empty()) writeImage(image, command.output, command.quality);
 }
 
 std::string synopsis(const Operation& operation) {
@@ -112,8 +123,8 @@ void printHelp() {
 }
 
 void printHelp(const Operation& operation) {
-  std::printf("usage: rnximg INPUT -o OUTPUT %s\n\n%.*s\n", synopsis(operation).c_str(), int(operation.brief.size()),
-              operation.brief.data());
+  std::printf("usage: rnximg INPUT %s %s\n\n%.*s\n", operation.onlyReports ? "[-o OUTPUT]" : "-o OUTPUT",
+              synopsis(operation).c_str(), int(operation.brief.size()), operation.brief.data());
   if (!operation.details.empty()) std::printf("%.*s\n", int(operation.details.size()), operation.details.data());
 }
 

@@ -90,11 +90,28 @@ std::array<Rnx8u, 3> Arguments::levels(const char* what, const Image& image) {
   return {static_cast<Rnx8u>(values[0]), static_cast<Rnx8u>(values[1]), static_cast<Rnx8u>(values[2])};
 }
 
+std::array<Rnx8u, 3> Arguments::color(const char* what, const Image& image) {
+  const std::string& all = word(what);
+  std::vector<std::string> parts(1);
+  for (const char c : all) {
+    if (c == ',') {
+      parts.emplace_back();
+    } else {
+      parts.back() += c;
+    }
+  }
+  if (parts.size() != 1 && parts.size() != 3)
+    failUsage(std::string(what) + " must be one integer or R,G,B: '" + all + "'");
+  if (parts.size() == 3 && image.channels() == 1)
+    failUsage("the image is gray: one " + std::string(what) + " is enough");
+  return Arguments(std::move(parts)).levels(what, image);
+}
+
 Image Arguments::image(const char* what, const Image& image) { return readImage(word(what), image.channels()); }
 
-Image Arguments::sameSizeImage(const char* what, const Image& image) {
+Image Arguments::sameSizeImage(const char* what, const Image& image, int channels) {
   const std::string& path = word(what);
-  Image other = readImage(path, image.channels());
+  Image other = readImage(path, channels != 0 ? channels : image.channels());
   if (other.size().width != image.size().width || other.size().height != image.size().height) {
     failFile(path + " has " + rnximg::toText(other.size()) + " pixels, the image " + rnximg::toText(image.size()) +
              ": both must have the same size");

@@ -37,10 +37,12 @@ public:
   std::array<double, 3> perColor(const char* what, double low, double high, const Image& image);
   // The same with integers.
   std::array<Rnx8u, 3> levels(const char* what, const Image& image);
+  // One word: an integer for all colours, or one for each, separated by commas.
+  std::array<Rnx8u, 3> color(const char* what, const Image& image);
   // A picture from a file, in the channels of `image`.
   Image image(const char* what, const Image& image);
-  // The same; fails unless it has the size of `image`.
-  Image sameSizeImage(const char* what, const Image& image);
+  // The same; fails unless it has the size of `image`. With `channels` in these.
+  Image sameSizeImage(const char* what, const Image& image, int channels = 0);
 
   // Fails when words are left.
   void finish() const;
@@ -58,6 +60,7 @@ struct Operation {
   std::string_view brief;      // one line
   void (*apply)(Image& image, Arguments& arguments);
   std::string_view details = {};  // more lines for the operation's own help
+  bool onlyReports = false;       // prints figures and leaves the image as it is: no OUTPUT is needed
 };
 
 // What the command line says beside the operations.

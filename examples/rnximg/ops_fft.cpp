@@ -4,24 +4,11 @@
 #include <cstdio>
 #include <vector>
 
+#include "float_image.h"
 #include "operations.h"
 
 namespace rnximg {
 namespace {
-
-using FloatImage = BasicImage<Rnx32f>;
-
-FloatImage toFloat(const Image& image) {
-  FloatImage result(image.size(), image.channels());
-  check(byChannels(image, rnxiConvert_8u32f_C1R, rnxiConvert_8u32f_C3R, rnxiConvert_8u32f_AC4R)(
-      image.data(), image.step(), result.data(), result.step(), image.size()));
-  return result;
-}
-
-void toBytes(const FloatImage& from, Image& image) {
-  check(byChannels(image, rnxiConvert_32f8u_C1R, rnxiConvert_32f8u_C3R, rnxiConvert_32f8u_AC4R)(
-      from.data(), from.step(), image.data(), image.step(), image.size(), rnxRoundNearestEven));
-}
 
 float* rowOf(FloatImage& image, int y) {
   return reinterpret_cast<float*>(reinterpret_cast<Rnx8u*>(image.data()) + std::ptrdiff_t{y} * image.step());

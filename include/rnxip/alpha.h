@@ -19,7 +19,7 @@ extern "C" {
 
    AC4 has four channels in pixel order, AP4 four planes given as an array of four pointers and one step; the fourth is
    alpha. Any step is accepted. Images may overlap in any way: the result is then that of a loop over the rows from the
-   top and over the pixels of a row from the left, of AP4 one plane after the other. */
+   top and over the elements of a row from the left, over whole pixels of AC4, and of AP4 one plane after the other. */
 
 /* rnxiAlphaPremul: Multiplies the colours of each pixel by the pixel's own alpha.
 

@@ -1758,8 +1758,8 @@ RnxStatus rnxiThreshold_GTVal_32f_AC4IR(Rnx32f* pSrcDst, int srcDstStep, RnxiSiz
      rnxStatusBadThreshold: thresholdGT below thresholdLT in a channel that is used (three channels for AC4)
 
    Example
-       // black below 128, white above, 128 itself as it is
-       RnxStatus status = rnxiThreshold_LTValGTVal_8u_C1R(src, srcStep, dst, dstStep, roi, 128, 0, 128, 255); */
+       // black below 64, white above 192, the rest as it is
+       RnxStatus status = rnxiThreshold_LTValGTVal_8u_C1R(src, srcStep, dst, dstStep, roi, 64, 0, 192, 255); */
 
 RnxStatus rnxiThreshold_LTValGTVal_8u_C1R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstStep, RnxiSize roiSize,
     Rnx8u thresholdLT, Rnx8u valueLT, Rnx8u thresholdGT, Rnx8u valueGT);

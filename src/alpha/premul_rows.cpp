@@ -2,6 +2,7 @@
 #include "alpha/premul_kernels.h"
 #include "simd/rows.h"
 #include "simd/saturate.h"
+#include "simd/shuffle.h"
 
 namespace rnx::alpha {
 namespace {
@@ -11,13 +12,7 @@ using namespace simd;
 // t / 255 to nearest for t up to 255^2: with u = t + 128, (u + (u >> 8)) >> 8 = (u * 257) >> 16.
 RNX_INLINE Vec<u16> dividedBy255(Vec<u16> t) {
   const Vec<u16> u = t + Vec<u16>::splat(128);
-  return Vec<u16>::of(RNX_MM(mulhi_epu16)(u.bits(), Vec<u16>::splat(257).bits()));
-}
-
-// t / 65535 to nearest for t up to 65535^2: with u = t + 32768, which fits, (u + (u >> 16)) >> 16.
-RNX_INLINE Vec<u32> dividedBy65535(Vec<u32> t) {
-  const Vec<u32> u = t + Vec<u32>::splat(32768);
-  return {(u.raw + (u.raw >> 16)) >> 16};
+  return multiplyHigh(u, Vec<u16>::splat(257));
 }
 
 // Even and odd bytes of v times lanes of 16 bits.
@@ -32,10 +27,13 @@ RNX_INLINE Vec<u8> product(Vec<u8> v, Vec<u8> factor) {
   const Vec<u16> lanes = factor.as<u16>();
   return product(v, lanes & Vec<u16>::splat(0xff), Vec<u16>{lanes.raw >> 8});
 }
+// With u = v * factor + 32768, which fits 32 bits, (u + (u >> 16)) >> 16: the upper half of u, and 1 where the sum of
+// both halves of u carries.
 RNX_INLINE Vec<u16> product(Vec<u16> v, Vec<u16> factor) {
-  const Pair<u32> t = multiply<u32>(v, factor);
-  const Pair<u32> q = {dividedBy65535(t.lo), dividedBy65535(t.hi)};
-  return Vec<u16>::of(RNX_MM(packus_epi32)(q.lo.bits(), q.hi.bits()));
+  const Vec<u16> low = v * factor;
+  const Vec<u16> upper = multiplyHigh(v, factor) + Vec<u16>{low.raw >> 15};
+  const Vec<u16> room = low ^ Vec<u16>::splat(0x7fff);  // 65535 less the lower half of u
+  return upper + min(subSaturated(upper, room), Vec<u16>::splat(1));
 }
 
 // ---- Functors ----
@@ -47,15 +45,12 @@ using Pixel = std::conditional_t<sizeof(T) == 1, u32, u64>;
 struct ByOwnAlpha {
   // The pixel's alpha in front of each 16-bit pair of bytes; the alpha itself is multiplied by 255, which keeps it.
   RNX_INLINE Vec<u32> operator()(Vec<u32> pixels) const {
-    const Vec<u32> twice = {pixels.raw >> 24};
-    const Vec<u16> factor = (twice | Vec<u32>{twice.raw << 16}).as<u16>();
+    const Vec<u16> factor = fourthAsWords(pixels);
     const Vec<u16> oddFactor = factor | Vec<u32>::splat(0x00ff0000).as<u16>();
     return product(pixels.as<u8>(), factor, oddFactor).as<u32>();
   }
   RNX_INLINE Vec<u64> operator()(Vec<u64> pixels) const {
-    constexpr int kFourth = 0xff;
-    const Int alpha = RNX_MM(shufflehi_epi16)(RNX_MM(shufflelo_epi16)(pixels.bits(), kFourth), kFourth);
-    const Vec<u16> factor = Vec<u16>::of(alpha) | Vec<u64>::splat(0xffff000000000000).as<u16>();
+    const Vec<u16> factor = fourthAsWords(pixels) | Vec<u64>::splat(0xffff000000000000).as<u16>();
     return product(pixels.as<u16>(), factor).as<u64>();
   }
 };

@@ -227,34 +227,11 @@ private:
 // the exact quotient only comes near to. A quotient x / d of integers that is not a tie keeps a distance of 1 / (2d)
 // from every tie, which is 1 / (2x) of itself. Single precision, with its 2^-24, therefore serves dividends below 2^23:
 // 8u always, as x is below 2^16 where the result does not saturate, and 16 bits unless they are scaled up.
-// What surrounds the quotient: divisors of 0 are replaced by 1, their results by the division rule.
-template <class T, class Channels>
-class ZeroDivisors {
-public:
-  RNX_INLINE Vec<T> replaced(Vec<T> b) {
-    zero_ = equal(b, Vec<T>::zero());
-    met_ = met_ | Channels::merge(zero_.template as<T>(), Vec<T>::zero());
-    return b - zero_.template as<T>();  // all ones are -1
-  }
+// The same arithmetic has the rule for divisors of 0: the quotient is infinite, which saturates to the largest value
+// for a positive dividend and to the smallest for a negative one; 0 / 0 is no number and is made 0 at the end.
 
-  // The largest value for a positive dividend, the smallest for a negative one, 0 for 0.
-  RNX_INLINE Vec<T> result(Vec<T> a, Vec<T> quotient) const {
-    Vec<T> byZero = ~equal(a, Vec<T>::zero()).template as<T>();  // the largest unsigned value
-    if constexpr (std::is_signed_v<T>) {
-      byZero = (greater(a, Vec<T>::zero()) & Vec<T>::splat(kMax<T>)) | (a & Vec<T>::splat(kMin<T>));
-    }
-    return select(zero_, byZero, quotient);
-  }
-
-  bool met() const { return anySet(met_); }
-
-private:
-  Mask<T> zero_ = Mask<T>::zero();
-  Vec<T> met_ = Vec<T>::zero();
-};
-
-// ScaledUp says that the scale factor is negative: then 16 bits need double precision, and quotients need limits before
-// they become integers. Others lie within [-2^15, 2^15], or are those of unsigned values.
+// ScaledUp says that the scale factor is negative: then 16 bits need double precision, and quotients a lower limit
+// before they become integers. Others are above -2^15 or infinite, and minus infinity becomes the smallest integer.
 template <class T, class Rounding, bool ScaledUp, class Channels>
 class Divide {
 public:
@@ -263,21 +240,23 @@ public:
   explicit Divide(const BinaryCall<T>& call) : factor_(Vec<F>::splat(F(call.factor))) {}
 
   RNX_INLINE Vec<T> operator()(Vec<T> a, Vec<T> b) {
-    const Vec<T> divisor = zeros_.replaced(b);
-    if constexpr (sizeof(T) == 1) {
-      const Pair<u16> x = widen<u16>(a), y = widen<u16>(divisor);
-      return zeros_.result(a,
-                           narrow<u8>(Pair<u16>{narrow<u16>(ofLanes(x.lo, y.lo)), narrow<u16>(ofLanes(x.hi, y.hi))}));
-    } else {
-      return zeros_.result(a, narrow<T>(ofLanes(a, divisor)));
-    }
+    zeros_ = zeros_ | Channels::merge(equal(b, Vec<T>::zero()).template as<T>(), Vec<T>::zero());
+    return result(a, b) & ~equal(a, Vec<T>::zero()).template as<T>();
   }
 
-  bool metZeroDivisor() const { return zeros_.met(); }
+  bool metZeroDivisor() const { return anySet(zeros_); }
 
 private:
   using F = std::conditional_t<ScaledUp && sizeof(T) == 2, f64, f32>;
 
+  RNX_INLINE Vec<T> result(Vec<T> a, Vec<T> b) const {
+    if constexpr (sizeof(T) == 1) {
+      const Pair<u16> x = widen<u16>(a), y = widen<u16>(b);
+      return narrow<u8>(Pair<u16>{narrow<u16>(ofLanes(x.lo, y.lo)), narrow<u16>(ofLanes(x.hi, y.hi))});
+    } else {
+      return narrow<T>(ofLanes(a, b));
+    }
+  }
   template <class I>
   RNX_INLINE Pair<s32> ofLanes(Vec<I> a, Vec<I> b) const {
     const Pair<s32> x = widen<s32>(a), y = widen<s32>(b);
@@ -294,12 +273,11 @@ private:
   RNX_INLINE Vec<F> quotient(Vec<F> a, Vec<F> b) const {
     Vec<F> q = Rounding::round(a * factor_ / b);
     if constexpr (ScaledUp && std::is_signed_v<T>) q = max(q, Vec<F>::splat(F(kMin<T>)));
-    if constexpr (ScaledUp) q = min(q, Vec<F>::splat(F(kMax<T>)));
-    return q;
+    return min(q, Vec<F>::splat(F(kMax<T>)));  // the limit for what is no number, too
   }
 
   Vec<F> factor_;
-  ZeroDivisors<T, Channels> zeros_;
+  Vec<T> zeros_ = Vec<T>::zero();
 };
 
 // 8u by one constant, half to even, without a division. With d = divisor * 2^scaleFactor:

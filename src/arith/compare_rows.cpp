@@ -1,7 +1,7 @@
 // Row kernels of the comparison of two images: 255 where the relation holds in every channel, else 0. What is not a
 // number makes every relation false.
 #include "arith/compare_kernels.h"
-#include "simd/convert.h"
+#include "simd/cast.h"
 #include "simd/pixels.h"
 
 namespace rnx::arith {
@@ -64,12 +64,32 @@ struct Compare {
   }
 };
 
+// One channel needs no folding: masks are narrowed to bytes.
+template <class T, class Relation>
+struct CompareElements {
+  using B = Block<T, kBytes>;
+
+  RNX_INLINE Vec<u8> operator()(const B& a, const B& b) const {
+    Block<typename MaskOf<sizeof(T)>::Type, kBytes> masks;
+    RNX_UNROLL
+    for (int j = 0; j < B::kVectors; ++j) masks.v[j] = Relation::template holds<T>(a.v[j], b.v[j]);
+    return narrowTo<s8>(masks).v[0].template as<u8>();
+  }
+};
+
 template <class T, class Relation, class Channels>
 void compare(const CompareCall<T>& call) {
   constexpr int C = Channels::kChannels;
-  Compare<T, Relation, Channels> f;
-  forEachElement<AllChannels<u8>>(call.rows, call.dst, call.dstStep, f, PixelSource<T, C>{call.left, call.leftStep},
-                                  PixelSource<T, C>{call.right, call.rightStep});
+  const auto run = [&](auto f, const auto& left, const auto& right) RNX_INLINE_LAMBDA {
+    forEachElement<AllChannels<u8>>(call.rows, call.dst, call.dstStep, f, left, right);
+  };
+  if constexpr (C == 1) {
+    using Source = ImageSource<T, Block<T, kBytes>>;
+    run(CompareElements<T, Relation>(), Source{call.left, call.leftStep}, Source{call.right, call.rightStep});
+  } else {
+    using Source = PixelSource<T, C>;
+    run(Compare<T, Relation, Channels>(), Source{call.left, call.leftStep}, Source{call.right, call.rightStep});
+  }
 }
 
 template <class T, class Channels>

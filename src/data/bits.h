@@ -16,6 +16,17 @@ RnxStatus checkBits(const S* src, int srcStep, const D* dst, int dstStep, int bi
   return rnxStatusNoError;
 }
 
+// Rows of whole bytes that follow each other are one row.
+template <class T, class Call>
+Call merged(Call call, s64 grayStep, s64 bitStep) {
+  const bool whole = call.offset == 0 && call.width % 8 == 0;
+  if (whole && bitStep == call.width / 8 && grayStep == call.width * static_cast<s64>(sizeof(T))) {
+    call.width *= call.height;
+    call.height = 1;
+  }
+  return call;
+}
+
 template <class T>
 const BitsForms<T>& bitsForms(RnxiSize roi) {
   const bool wide = core::wideRows(s64{roi.width} * roi.height * static_cast<s64>(sizeof(T)));
@@ -26,14 +37,15 @@ template <class T>
 RnxStatus grayToBits(const T* src, int srcStep, u8* dst, int dstStep, int dstBitOffset, RnxiSize roi, T threshold) {
   if (const RnxStatus status = checkBits(src, srcStep, dst, dstStep, dstBitOffset, roi)) return status;
 
-  bitsForms<T>(roi).toBits({.width = roi.width,
-                            .height = roi.height,
-                            .src = src,
-                            .srcStep = srcStep,
-                            .dst = dst,
-                            .dstStep = dstStep,
-                            .offset = dstBitOffset % 8,
-                            .threshold = threshold});
+  const ToBitsCall<T> call = {.width = roi.width,
+                              .height = roi.height,
+                              .src = src,
+                              .srcStep = srcStep,
+                              .dst = dst,
+                              .dstStep = dstStep,
+                              .offset = dstBitOffset % 8,
+                              .threshold = threshold};
+  bitsForms<T>(roi).toBits(merged<T>(call, srcStep, dstStep));
   return rnxStatusNoError;
 }
 
@@ -41,15 +53,16 @@ template <class T>
 RnxStatus bitsToGray(const u8* src, int srcStep, int srcBitOffset, T* dst, int dstStep, RnxiSize roi, T low, T high) {
   if (const RnxStatus status = checkBits(src, srcStep, dst, dstStep, srcBitOffset, roi)) return status;
 
-  bitsForms<T>(roi).fromBits({.width = roi.width,
-                              .height = roi.height,
-                              .src = src,
-                              .srcStep = srcStep,
-                              .offset = srcBitOffset % 8,
-                              .dst = dst,
-                              .dstStep = dstStep,
-                              .low = low,
-                              .high = high});
+  const FromBitsCall<T> call = {.width = roi.width,
+                                .height = roi.height,
+                                .src = src,
+                                .srcStep = srcStep,
+                                .offset = srcBitOffset % 8,
+                                .dst = dst,
+                                .dstStep = dstStep,
+                                .low = low,
+                                .high = high};
+  bitsForms<T>(roi).fromBits(merged<T>(call, dstStep, srcStep));
   return rnxStatusNoError;
 }
 

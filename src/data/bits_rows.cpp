@@ -1,4 +1,4 @@
-// Row kernels of the conversions between gray and one-bit images: 32 pixels, a word of bits, at a time.
+// Row kernels of the conversions between gray and one-bit images: 64 pixels, a word of bits, at a time.
 #include "data/bits_kernels.h"
 #include "simd/bits.h"
 
@@ -7,40 +7,99 @@ namespace {
 
 using namespace simd;
 
-constexpr int kWord = 32;
+constexpr int kWord = 64;
+
+// The n lowest bytes of a word, n at most 8, and where they come from or go to.
+u64 loadBytes(const u8* src, int n) {
+  const auto two = [&](auto part) {  // overlapping parts from the start and from the end
+    constexpr int kPart = sizeof(part);
+    auto last = part;
+    __builtin_memcpy(&part, src, kPart);
+    __builtin_memcpy(&last, src + n - kPart, kPart);
+    return u64{part} | static_cast<u64>(last) << (8 * (n - kPart));
+  };
+  return n >= 8 ? two(u64{}) : n >= 4 ? two(u32{}) : n >= 2 ? two(u16{}) : n == 1 ? two(u8{}) : 0;
+}
+
+void storeBytes(u8* dst, u64 bytes, int n) {
+  const auto two = [&](auto part) {
+    using Part = decltype(part);
+    constexpr int kPart = sizeof(part);
+    const Part first = static_cast<Part>(bytes), last = static_cast<Part>(bytes >> (8 * (n - kPart)));
+    __builtin_memcpy(dst, &first, kPart);
+    __builtin_memcpy(dst + n - kPart, &last, kPart);
+  };
+  n >= 8 ? two(u64{}) : n >= 4 ? two(u32{}) : n >= 2 ? two(u16{}) : n == 1 ? two(u8{}) : void();
+}
 
 template <class T>
 class ToBits {
 public:
   explicit ToBits(T threshold) : threshold_(Vec<T>::splat(threshold)) {}
 
-  // Of n pixels, n at most a word.
-  RNX_INLINE u32 word(const T* src, int n) const {
-    u32 bits = 0;
-    int i = 0;
-    for (; i + kLanes <= n; i += kLanes) bits |= above(Vec<T>::load(src + i)) << i;
-    if (i < n) bits |= joinHalves(above(loadPart(src + i, n - i)), n - i) << i;
-    return bits;
-  }
-
   // The bits before the row's first one go through the accumulator like those of pixels.
   void row(const T* src, u8* dst, s64 n, int offset) const {
-    u64 bits = *dst & ((1u << offset) - 1);
-    for (; n >= kWord; n -= kWord, src += kWord, dst += kWord / 8) {
-      bits |= static_cast<u64>(word(src, kWord)) << offset;
-      __builtin_memcpy(dst, &bits, kWord / 8);
-      bits >>= kWord;
+    const u32 outside = (1u << offset) - 1;
+    u64 before = *dst & outside;
+    if (offset == 0) {
+      for (; n >= kWord; n -= kWord, src += kWord, dst += kWord / 8) put(dst, word(src));
+    } else {
+      for (; n >= kWord; n -= kWord, src += kWord, dst += kWord / 8) {
+        const u64 bits = word(src);
+        put(dst, bits << offset | before);
+        before = bits >> (kWord - offset);
+      }
     }
-    int count = offset + static_cast<int>(n);
-    if (n > 0) bits |= static_cast<u64>(word(src, static_cast<int>(n))) << offset;
-    for (; count >= 8; count -= 8, bits >>= 8) *dst++ = static_cast<u8>(bits);
-    if (count > 0) *dst = static_cast<u8>((*dst & ~((1u << count) - 1)) | bits);
+    if (n == 0) {
+      if (offset > 0) *dst = static_cast<u8>((*dst & ~outside) | before);
+      return;
+    }
+    const int rest = static_cast<int>(n), count = offset + rest;  // up to 70
+    const u64 bits = part(src, rest);
+    const int whole = std::min(count, kWord) / 8;
+    storeBytes(dst, bits << offset | before, whole);
+    if (count % 8 == 0) return;
+    const u64 last = whole < 8 ? (bits << offset | before) >> (8 * whole) : bits >> (kWord - offset);
+    dst[whole] = static_cast<u8>((dst[whole] & ~((1u << count % 8) - 1)) | last);
   }
 
 private:
-  static constexpr int kLanes = Vec<T>::kLanes;
+  static constexpr int kLanes = Vec<T>::kLanes, kSize = sizeof(T);
 
-  RNX_INLINE u32 above(Vec<T> v) const { return signBits(greater(v, threshold_)); }
+  static RNX_INLINE void put(u8* dst, u64 bits) { __builtin_memcpy(dst, &bits, sizeof(bits)); }
+
+  // Unsigned elements are above the threshold where the larger of both is not the threshold.
+  static constexpr bool kInverse = std::is_unsigned_v<T>;
+  RNX_INLINE Mask<T> compare(Vec<T> v) const {
+    if constexpr (kInverse) {
+      return equal(max(v, threshold_), threshold_);
+    } else {
+      return greater(v, threshold_);
+    }
+  }
+
+  // Of kBytes pixels.
+  RNX_INLINE u64 block(const T* src) const {
+    Mask<T> masks[kSize];
+    RNX_UNROLL
+    for (int k = 0; k < kSize; ++k) masks[k] = compare(Vec<T>::load(src + k * kLanes));
+    return bitsOfMasks<T>(masks);
+  }
+  RNX_INLINE u64 word(const T* src) const {
+    u64 bits = 0;
+    RNX_UNROLL
+    for (int i = 0; i < kWord; i += kBytes) bits |= block(src + i) << i;
+    return kInverse ? ~bits : bits;
+  }
+  // Of n pixels, less than a word; the bits behind them are 0.
+  u64 part(const T* src, int n) const {
+    u64 bits = 0;
+    int i = 0;
+    for (; i + kBytes <= n; i += kBytes) bits |= block(src + i) << i;
+    for (; i + kLanes <= n; i += kLanes) bits |= u64{signBits(compare(Vec<T>::load(src + i)))} << i;
+    if (i < n) bits |= u64{joinHalves(signBits(compare(loadPart(src + i, n - i))), n - i)} << i;
+    return (kInverse ? ~bits : bits) & ((u64{1} << n) - 1);
+  }
 
   Vec<T> threshold_;
 };
@@ -62,31 +121,51 @@ class FromBits {
 public:
   FromBits(T low, T high) : low_(Vec<T>::splat(low)), high_(Vec<T>::splat(high)) {}
 
-  RNX_INLINE void word(u32 bits, T* dst, int n) const {
-    int i = 0;
-    for (; i + kLanes <= n; i += kLanes) level(bits >> i).store(dst + i);
-    if (i < n) storePart(dst + i, n - i, level(makeHalves(bits >> i, n - i)));
-  }
-
   void row(const u8* src, T* dst, s64 n, int offset) const {
-    for (; n >= kWord; n -= kWord, src += kWord / 8, dst += kWord) {
-      u64 bits = 0;
-      __builtin_memcpy(&bits, src, kWord / 8);
-      if (offset > 0) bits |= static_cast<u64>(src[kWord / 8]) << kWord;  // it holds the word's last bits
-      word(static_cast<u32>(bits >> offset), dst, kWord);
+    if (offset == 0) {
+      for (; n >= kWord; n -= kWord, src += kWord / 8, dst += kWord) word(get(src), dst);
+    } else {
+      for (; n >= kWord; n -= kWord, src += kWord / 8, dst += kWord) word(shifted(get(src), src[8], offset), dst);
     }
     if (n == 0) return;
-    u64 bits = 0;
-    for (int b = 0; 8 * b < offset + n; ++b) bits |= static_cast<u64>(src[b]) << (8 * b);
-    word(static_cast<u32>(bits >> offset), dst, static_cast<int>(n));
+    const int bytes = static_cast<int>(offset + n + 7) / 8;
+    u64 bits = loadBytes(src, std::min(bytes, 8));
+    bits = bytes == 9 ? shifted(bits, src[8], offset) : bits >> offset;
+    part(bits, dst, static_cast<int>(n));
   }
 
 private:
   static constexpr int kLanes = Vec<T>::kLanes;
 
-  RNX_INLINE Vec<T> level(u32 bits) const { return select(spreadBits<T>(bits), high_, low_); }
+  static RNX_INLINE u64 get(const u8* src) {
+    u64 bits;
+    __builtin_memcpy(&bits, src, sizeof(bits));
+    return bits;
+  }
+  // From bit `offset`, above 0, on; the ninth byte holds the last ones.
+  static RNX_INLINE u64 shifted(u64 bits, u8 ninth, int offset) {
+    return bits >> offset | u64{ninth} << (kWord - offset);
+  }
+
+  RNX_INLINE Vec<T> level(Vec<u64> bits) const { return select(spread_(bits), high_, low_); }
+
+  RNX_INLINE void word(u64 bits, T* dst) const { vectors(Vec<u64>::splat(bits), dst); }
+  template <int First = 0>
+  RNX_INLINE void vectors(Vec<u64> bits, T* dst) const {
+    level(shiftBitsRight<First>(bits)).store(dst + First);
+    if constexpr (First + kLanes < kWord) vectors<First + kLanes>(bits, dst);
+  }
+
+  void part(u64 bits, T* dst, int n) const {
+    int i = 0;
+    for (; i + kLanes <= n; i += kLanes, bits >>= kLanes) level(Vec<u64>::splat(bits)).store(dst + i);
+    if (i < n) {
+      storePart(dst + i, n - i, level(Vec<u64>::splat(makeHalves(static_cast<u32>(bits), n - i))));
+    }
+  }
 
   Vec<T> low_, high_;
+  BitSpreader<T> spread_;
 };
 
 template <class T>

@@ -42,6 +42,38 @@ constexpr Positions positions(const Route& route, int elementBytes) {
   return result;
 }
 
+// The first chunk of it, at run time, for pixel orders with four channels on one side or both: chunks hold whole pixels
+// and are all alike. All bytes of a pixel are formed at once; from pixel to pixel the positions grow by a source pixel.
+template <int ElementBytes, int Channels>  // of the destination
+inline void firstPositions(const Route& route, Positions& result) {
+  constexpr u32 kOnes = ElementBytes == 4 ? 0x01010101 : ElementBytes == 2 ? 0x0101 : 1;
+  constexpr u32 kAscending = ElementBytes == 4 ? 0x03020100 : ElementBytes == 2 ? 0x0100 : 0;
+  constexpr int kElementBits = 8 * ElementBytes, kPixelBits = Channels * kElementBits;
+  u64 words[3] = {};
+  if constexpr (ElementBytes == 4) {
+    for (int c = 0; c < Channels; ++c) {
+      const int from = route.from[c];
+      const u32 element = from < 0 ? kOnes * static_cast<u8>(from) : kOnes * static_cast<u8>(from * 4) + kAscending;
+      words[c / 2] |= u64{element} << c % 2 * kElementBits;
+    }
+  } else {
+    u64 pixel = 0, growth = 0;
+    for (int c = 0; c < Channels; ++c) {
+      const int from = route.from[c];
+      const u32 element =
+          from < 0 ? kOnes * static_cast<u8>(from) : kOnes * static_cast<u8>(from * ElementBytes) + kAscending;
+      const u32 step = from < 0 ? 0 : kOnes * static_cast<u8>(route.srcChannels * ElementBytes);
+      pixel |= u64{element} << c * kElementBits;
+      growth |= u64{step} << c * kElementBits;
+    }
+    for (int bit = 0; bit < 4 / ElementBytes * kPixelBits; bit += kPixelBits, pixel += growth) {
+      words[bit / 64] |= pixel << bit % 64;
+      if (bit % 64 + kPixelBits > 64) words[bit / 64 + 1] |= pixel >> (64 - bit % 64);
+    }
+  }
+  __builtin_memcpy(result.at, words, 16);
+}
+
 struct ChannelCall {
   s64 width;  // pixels
   s64 height;

@@ -1,12 +1,9 @@
 // Row kernels of the channel moves. A group of pixels is loaded as chunks of 16 bytes; every chunk of the result is put
 // together from shuffles of the chunks that reach into it.
-#include "data/channel_kernels.h"
-#include "simd/shuffle.h"
+#include "data/channel_fours.h"
 
 namespace rnx::data {
 namespace {
-
-using namespace simd;
 
 // Whether bytes of source chunk i can come to destination chunk j, for any element size, when both sides are in pixel
 // order: whether there is a pixel with bytes in both.
@@ -38,32 +35,35 @@ constexpr Reach<In, Out> kReach;
 // How the sides lie in memory. Pixels on both sides keep a byte near its place.
 enum class Order { kPixels, kToPlanes, kFromPlanes };
 
+// kChunk / elementBytes without a division.
+int elementsOfChunk(const ChannelCall& call) { return kChunk >> (call.elementBytes >> 1); }
+
 // Pixels of four channels on both sides are whole in every chunk: a group is one chunk of them.
 template <int In, int Out>
 int groupPixels(const ChannelCall& call) {
   const bool fours = In <= 1 && Out == 1 && call.route->dstChannels == 4;
-  return kChunk / call.elementBytes / (fours ? 4 : 1);
+  return elementsOfChunk(call) / (fours ? 4 : 1);
 }
 
 template <int In, int Out, Order O, bool Keeps>
 class Mover {
 public:
+  static constexpr bool kOneChunk = In <= 1 && Out == 1;
+
   explicit Mover(const ChannelCall& call) : call_(call) {
     const auto value = everyGroup(loadChunk(call.value));
     RNX_UNROLL
     for (int j = 0; j < Out; ++j) {
-      const auto at = everyGroup(loadChunk(reinterpret_cast<const u8*>(call.positions->at) + j * kChunk));
+      const auto at = positionsOf(call, j);
       RNX_UNROLL
       for (int i = 0; i < In; ++i) index_[j][i] = indexInto(i, at);
       keep_[j] = equal(at, Vec<u8>::splat(static_cast<u8>(kKeep)));
       value_[j] = equal(at, Vec<u8>::splat(static_cast<u8>(kValue))).template as<u8>() & value;
     }
-    RNX_UNROLL
-    for (int i = 0; i < In; ++i) src_[i] = call.route->srcPlanar ? call.src[i] : call.src[0] + i * kChunk;
-    RNX_UNROLL
-    for (int j = 0; j < Out; ++j) dst_[j] = call.route->dstPlanar ? call.dst[j] : call.dst[0] + j * kChunk;
-    srcPixel_ = call.elementBytes * (call.route->srcPlanar ? 1 : call.route->srcChannels);
-    dstPixel_ = call.elementBytes * (call.route->dstPlanar ? 1 : call.route->dstChannels);
+    for (int i = 0; i < kSources; ++i) src_[i] = call.src[i];
+    for (int j = 0; j < kResults; ++j) dst_[j] = call.dst[j];
+    srcPixel_ = call.elementBytes * (O == Order::kFromPlanes ? 1 : call.route->srcChannels);
+    dstPixel_ = call.elementBytes * (O == Order::kToPlanes ? 1 : call.route->dstChannels);
   }
 
   struct Result {
@@ -74,13 +74,15 @@ public:
   RNX_INLINE Result compute(s64 x, s64 apart) const {
     Vec<u8> in[In + 1];
     RNX_UNROLL
-    for (int i = 0; i < In; ++i)
-      in[i] = loadChunks < Adjacent && kTightSource > (src_[i] + x * srcPixel_, apart * srcPixel_);
+    for (int i = 0; i < In; ++i) {
+      const u8* src = kSources > 1 ? src_[i] : src_[0] + i * kChunk;
+      in[i] = loadChunks < Adjacent && kTightSource > (src + x * srcPixel_, apart * srcPixel_);
+    }
     Result result;
     RNX_UNROLL
     for (int j = 0; j < Out; ++j) {
       Vec<u8> v = value_[j];
-      bool first = In > 0 && !Keeps && !kHasValue;
+      bool first = In > 0 && !Keeps;
       RNX_UNROLL
       for (int i = 0; i < In; ++i) {
         if (O == Order::kPixels && !kReach<In, Out>.any[j][i]) continue;
@@ -88,108 +90,41 @@ public:
         v = first ? part : v | part;
         first = false;
       }
-      if (Keeps)
-        v = select(keep_[j], loadChunks < Adjacent && kTightResult > (dst_[j] + x * dstPixel_, apart * dstPixel_), v);
+      if (Keeps) v = select(keep_[j], loadChunks < Adjacent && kTightResult > (dst(x, j), apart * dstPixel_), v);
       result.chunk[j] = v;
     }
     return result;
   }
 
-  template <bool Adjacent>
+  template <bool Adjacent, bool Stream>
   RNX_INLINE void store(s64 x, s64 apart, const Result& result) const {
     RNX_UNROLL
     for (int j = 0; j < Out; ++j)
-      storeChunks<Adjacent && kTightResult>(dst_[j] + x * dstPixel_, apart * dstPixel_, result.chunk[j]);
+      storeChunks<Adjacent && kTightResult, Stream>(dst(x, j), apart * dstPixel_, result.chunk[j]);
   }
 
   void nextRow() {
-    for (int i = 0; i < In; ++i) src_[i] = core::at(src_[i], call_.srcStep);
-    for (int j = 0; j < Out; ++j) dst_[j] = core::at(dst_[j], call_.dstStep);
+    for (const u8*& src : src_) src = core::at(src, call_.srcStep);
+    for (u8*& dst : dst_) dst = core::at(dst, call_.dstStep);
   }
 
+  s64 streamHead() const { return sameAlignment(dst_, kResults) ? pixelsToAlignment(dst_[0], dstPixel_) : -1; }
+
 private:
+  static constexpr int kSources = O == Order::kFromPlanes ? In : 1, kResults = O == Order::kToPlanes ? Out : 1;
   // Chunks of consecutive groups follow each other.
   static constexpr bool kTightSource = In == 1 || O == Order::kFromPlanes;
   static constexpr bool kTightResult = Out == 1 || O == Order::kToPlanes;
-  static constexpr bool kHasValue = In == 0 || (In == 3 && Out == 4);
+
+  RNX_INLINE u8* dst(s64 x, int j) const { return (kResults > 1 ? dst_[j] : dst_[0] + j * kChunk) + x * dstPixel_; }
 
   const ChannelCall& call_;
   Vec<u8> index_[Out][In + 1];
   Mask<u8> keep_[Out];
   Vec<u8> value_[Out];
-  const u8* src_[In + 1];
-  u8* dst_[Out];
+  const u8* src_[kSources];
+  u8* dst_[kResults];
   s64 srcPixel_, dstPixel_;
-};
-
-// Four channels between pixels and planes: the squares of 4-byte words in four chunks are transposed, and the elements
-// of a channel are brought together in the words before, or taken apart after that.
-template <Order O>
-class FourPlanes {
-public:
-  explicit FourPlanes(const ChannelCall& call) : call_(call), elementBytes_(call.elementBytes) {
-    u8 index[kChunk];
-    for (int b = 0; b < kChunk; ++b) {
-      const int at = call.positions->at[kToPlanes ? b / 4 * kChunk + b % 4 : b];
-      index[b] = static_cast<u8>(kToPlanes ? at : at / kChunk * 4 + at % kChunk);
-    }
-    index_ = everyGroup(loadChunk(index));
-    for (int k = 0; k < 4; ++k) {
-      planes_[k] = kToPlanes ? call.dst[k] : call.src[k];
-    }
-    pixels_ = kToPlanes ? call.src[0] : call.dst[0];
-  }
-
-  struct Result {
-    Vec<u8> chunk[4];
-  };
-
-  template <bool Adjacent>
-  RNX_INLINE Result compute(s64 x, s64 apart) const {
-    Result r;
-    RNX_UNROLL
-    for (int k = 0; k < 4; ++k) {
-      if constexpr (kToPlanes) {
-        r.chunk[k] =
-            shuffle(loadChunks(pixels_ + x * 4 * elementBytes_ + k * kChunk, apart * 4 * elementBytes_), index_);
-      } else {
-        r.chunk[k] = loadChunks<Adjacent>(planes_[k] + x * elementBytes_, apart * elementBytes_);
-      }
-    }
-    transposeChunks<4>(r.chunk);
-    if constexpr (!kToPlanes) {
-      RNX_UNROLL
-      for (int k = 0; k < 4; ++k) r.chunk[k] = shuffle(r.chunk[k], index_);
-    }
-    return r;
-  }
-
-  template <bool Adjacent>
-  RNX_INLINE void store(s64 x, s64 apart, const Result& r) const {
-    RNX_UNROLL
-    for (int k = 0; k < 4; ++k) {
-      if constexpr (kToPlanes) {
-        storeChunks<Adjacent>(const_cast<u8*>(planes_[k]) + x * elementBytes_, apart * elementBytes_, r.chunk[k]);
-      } else {
-        storeChunks(const_cast<u8*>(pixels_) + x * 4 * elementBytes_ + k * kChunk, apart * 4 * elementBytes_,
-                    r.chunk[k]);
-      }
-    }
-  }
-
-  void nextRow() {
-    for (const u8*& plane : planes_) plane = core::at(plane, kToPlanes ? call_.dstStep : call_.srcStep);
-    pixels_ = core::at(pixels_, kToPlanes ? call_.srcStep : call_.dstStep);
-  }
-
-private:
-  static constexpr bool kToPlanes = O == Order::kToPlanes;
-
-  const ChannelCall& call_;
-  s64 elementBytes_;
-  Vec<u8> index_;
-  const u8* planes_[4];  // the side that is written was writable
-  const u8* pixels_;
 };
 
 // Pixel by pixel, for rows shorter than a group and for images that overlap: a pixel is read, then written.
@@ -243,6 +178,21 @@ void movePixels(const ChannelCall& call, s64 y, s64 first, s64 end) {
   return movePixels<u32>(call, y, first, end);
 }
 
+// The last pixel of a row behind a channel pointer: one element.
+void moveLastElement(const ChannelCall& call, s64 y) {
+  const s64 last = (call.width - 1) * call.elementBytes;
+  const u8* src =
+      call.route->from[0] < 0 ? call.value : core::at(call.src[0], y * call.srcStep + last * call.route->srcChannels);
+  u8* dst = core::at(call.dst[0], y * call.dstStep + last * call.route->dstChannels);
+  if (call.elementBytes == 1) {
+    *dst = *src;
+  } else if (call.elementBytes == 2) {
+    __builtin_memcpy(dst, src, 2);
+  } else {
+    __builtin_memcpy(dst, src, 4);
+  }
+}
+
 template <class Rows>
 RNX_INLINE void moveRows(const ChannelCall& call, int group) {
   // Behind a channel pointer the last pixel of a row ends with the channel: it is moved alone.
@@ -252,10 +202,17 @@ RNX_INLINE void moveRows(const ChannelCall& call, int group) {
     return;
   }
   Rows rows(call);
+  const bool stream = call.walk == core::Walk::kStream && whole >= 4 * kGroups * s64{group};
   for (s64 y = 0; y < call.height; ++y, rows.nextRow()) {
-    forEachGroup(whole, group, rows);
-    if (whole < call.width) movePixels(call, y, whole, call.width);
+    const s64 head = stream ? rows.streamHead() : -1;
+    if (head >= 0) {
+      forEachGroupStreamed(whole, group, head, rows);
+    } else {
+      forEachGroup(whole, group, rows);
+    }
+    if (whole < call.width) moveLastElement(call, y);
   }
+  if (stream) endStream();
 }
 
 template <int In, int Out, Order O, bool Keeps>
@@ -263,9 +220,10 @@ void move(const ChannelCall& call) {
   moveRows<Mover<In, Out, O, Keeps>>(call, groupPixels<In, Out>(call));
 }
 
-template <Order O>
-void moveFour(const ChannelCall& call) {
-  moveRows<FourPlanes<O>>(call, kChunk / call.elementBytes);
+// The same for rows of chunks of every channel.
+template <class Rows>
+void moveBy(const ChannelCall& call) {
+  moveRows<Rows>(call, elementsOfChunk(call));
 }
 
 }  // namespace
@@ -274,22 +232,22 @@ namespace RNX_WIDTH {
 
 constinit const ChannelKernels channelKernels = {
     .split3 = move<3, 3, Order::kToPlanes, false>,
-    .split4 = moveFour<Order::kToPlanes>,
+    .split4 = moveBy<FourPlanes<true>>,
     .join3 = move<3, 3, Order::kFromPlanes, false>,
-    .join4 = moveFour<Order::kFromPlanes>,
+    .join4 = moveBy<FourPlanes<false>>,
     .extract3 = move<3, 1, Order::kPixels, false>,
-    .extract4 = move<4, 1, Order::kPixels, false>,
-    .insert3Keep = move<1, 3, Order::kPixels, true>,
-    .insert4Keep = move<1, 4, Order::kPixels, true>,
-    .spread3 = move<1, 3, Order::kPixels, false>,
-    .spread4 = move<1, 4, Order::kPixels, false>,
+    .extract4 = moveBy<ExtractOfFour>,
+    .insert3Keep = moveBy<Spread<3, true>>,
+    .insert4Keep = moveBy<Spread<4, true>>,
+    .spread3 = moveBy<Spread<3, false>>,
+    .spread4 = moveBy<Spread<4, false>>,
     .within3 = move<3, 3, Order::kPixels, false>,
     .within4 = move<1, 1, Order::kPixels, false>,
     .within3Keep = move<3, 3, Order::kPixels, true>,
     .within4Keep = move<1, 1, Order::kPixels, true>,
-    .widen = move<3, 4, Order::kPixels, false>,
-    .widenKeep = move<3, 4, Order::kPixels, true>,
-    .narrow = move<4, 3, Order::kPixels, false>,
+    .widen = moveBy<Widen<false>>,
+    .widenKeep = moveBy<Widen<true>>,
+    .narrow = moveBy<Narrow>,
     .value3Keep = move<0, 3, Order::kPixels, true>,
     .value4Keep = move<0, 1, Order::kPixels, true>,
 };

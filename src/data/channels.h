@@ -108,8 +108,10 @@ inline void planMove(ChannelCall& call) {
   bool mergeable = call.dstStep == call.width * dst.pixelBytes;
   mergeable = mergeable && (src.images == 0 || call.srcStep == call.width * src.pixelBytes);
   call.walk = core::Walk::kVectors;
+  bool apart = true;
   const auto meet = [&](const core::Operand& one, const core::Operand& other) {
     const core::Relation relation = core::relate(one, other, call.height);
+    apart = apart && relation == core::Relation::kApart;
     if (relation == core::Relation::kOverlap) call.walk = core::Walk::kInOrder;
     mergeable = mergeable && (relation == core::Relation::kApart || relation == core::Relation::kIdentical);
   };
@@ -117,6 +119,12 @@ inline void planMove(ChannelCall& call) {
     const core::Operand result = image(call.dst[j], call.dstStep, dst.spanBytes);
     for (int i = 0; i < src.images; ++i) meet(result, image(call.src[i], call.srcStep, src.spanBytes));
     for (int i = 0; i < j; ++i) meet(result, image(call.dst[i], call.dstStep, dst.spanBytes));
+  }
+  const s64 bytesMoved = (src.spanBytes * src.images + dst.spanBytes * dst.images) * call.height;
+  if (apart && core::exceedsCaches(bytesMoved)) {
+    // Pixels of which something stays are read: they come into the caches anyway.
+    const bool keeps = std::find(route.from, route.from + route.dstChannels, kKeep) != route.from + route.dstChannels;
+    if (!keeps) call.walk = core::Walk::kStream;
   }
   if (mergeable) {
     call.width *= call.height;
@@ -217,7 +225,14 @@ bool validOrder(const int* order, unsigned limit) {
 template <class T>
 void reorder(const Route& route, ChannelKernel ChannelKernels::*kernel, const T* src, int srcStep, T* dst, int dstStep,
              RnxiSize roi, T value = {}) {
-  const Positions at = positions(route, sizeof(T));
+  Positions at;
+  if (route.dstChannels == 4) {
+    firstPositions<sizeof(T), 4>(route, at);
+  } else if (route.srcChannels == 4) {
+    firstPositions<sizeof(T), 3>(route, at);
+  } else {
+    at = positions(route, sizeof(T));
+  }
   ChannelCall call = {.width = roi.width,
                       .height = roi.height,
                       .walk = core::Walk::kVectors,

@@ -52,7 +52,7 @@ RnxStatus convert(const S* src, int srcStep, D* dst, int dstStep, RnxiSize roi) 
 
   const ConvertCall call = planConversion<L>(src, srcStep, dst, dstStep, roi);
   const auto kernel = formOf<L>(convertKernels<Plain<S, D>>(call.rows).forms);
-  [[maybe_unused]] const simd::FloatStateFor<S, D> state;
+  [[maybe_unused]] const simd::FloatStateOfConversion<S, D> state;
   kernel(call);
   return rnxStatusNoError;
 }

@@ -8,7 +8,7 @@ namespace {
 
 using namespace simd;
 
-// ---- Functors: one block of S into one block of D ----
+// ---- Functors: one block of S into one block of D. Lane is what they compute in. ----
 
 // Negative values become 0 where S has a sign and D has none.
 template <class T, int N>
@@ -22,10 +22,11 @@ using SignedLane = typename MaskOf<sizeof(T)>::Type;
 
 template <class S, class D>
 struct PlainFunctor {
+  using Lane = D;
   explicit PlainFunctor(const ConvertCall&) {}
 
-  template <int N>
-  RNX_INLINE Block<D, N> operator()(const Block<S, N>& block) const {
+  template <class B, int N>  // lanes of S, or what they were widened to
+  RNX_INLINE Block<D, N> operator()(const Block<B, N>& block) const {
     constexpr bool kLosesSign = std::is_signed_v<S> && std::is_unsigned_v<D>;
     if constexpr (std::is_floating_point_v<D>) {
       return widenTo<D>(block);
@@ -50,6 +51,7 @@ struct PlainFunctor {
 
 template <class S, class D, class Rounding>
 struct RoundedFunctor {
+  using Lane = S;
   explicit RoundedFunctor(const ConvertCall&) {}
 
   template <int N>
@@ -61,6 +63,7 @@ struct RoundedFunctor {
 template <class S, class D, class Rounding>
 class RoundedScaledFunctor {
 public:
+  using Lane = S;
   explicit RoundedScaledFunctor(const ConvertCall& call) : factor_(Vec<S>::splat(call.factor)) {}
 
   template <int N>
@@ -77,11 +80,6 @@ private:
 
 template <class S>
 using ScaleLane = std::conditional_t<sizeof(S) == 4, S, std::conditional_t<std::is_signed_v<S>, s16, u16>>;
-
-RNX_INLINE Vec<u16> magnitude(Vec<s16> v) { return Vec<u16>::of(RNX_MM(abs_epi16)(v.bits())); }
-RNX_INLINE Vec<u32> magnitude(Vec<s32> v) { return Vec<u32>::of(RNX_MM(abs_epi32)(v.bits())); }
-RNX_INLINE Vec<s16> withSign(Vec<u16> m, Vec<s16> of) { return Vec<s16>::of(RNX_MM(sign_epi16)(m.bits(), of.bits())); }
-RNX_INLINE Vec<s32> withSign(Vec<u32> m, Vec<s32> of) { return Vec<s32>::of(RNX_MM(sign_epi32)(m.bits(), of.bits())); }
 
 // Rounding modes of m / 2^n with quotient and rest: what must be added to the quotient. Sums never leave the lane.
 template <class Rounding, class U>
@@ -134,6 +132,7 @@ RNX_INLINE Block<W, N> scaleLanes(const Block<S, N>& block) {
 template <class S, class D, class Rounding>
 class RightFunctor {
 public:
+  using Lane = S;
   explicit RightFunctor(const ConvertCall& call) : shift_(call.shift) {}
 
   template <int N>
@@ -157,6 +156,7 @@ private:
 template <class S, class D>
 class LeftFunctor {
 public:
+  using Lane = S;
   explicit LeftFunctor(const ConvertCall& call)
       : count_(shiftCount(call.shift)),
         low_(Vec<W>::splat(static_cast<W>((s64{kSmallest<D>} >> call.shift) - 1))),
@@ -182,9 +182,10 @@ private:
 
 template <class S, class D, class Channels, class F>
 void convert(const ConvertCall& call) {
+  using Source = SourceBlock<S, typename F::Lane, kStepOf<S, D>>;
   F f(call);
   forEachElement<Channels>(call.rows, static_cast<D*>(call.dst), call.dstStep, f,
-                           ImageSource<S, Block<S, kStepOf<S, D>>>{static_cast<const S*>(call.src), call.srcStep});
+                           ImageSource<S, Source>{static_cast<const S*>(call.src), call.srcStep});
 }
 
 template <class S, class D, class F>

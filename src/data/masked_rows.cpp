@@ -27,6 +27,7 @@ constexpr PixelNumbers<T, Channels, Used> kPixelNumbers;
 template <class T, int Channels, bool Image>
 class Masked {
 public:
+  static constexpr bool kOneChunk = false;
   static constexpr int kPixels = kChunk / static_cast<int>(sizeof(T));  // of a group
   static constexpr s64 kPixelBytes = s64{sizeof(T)} * Channels;
 
@@ -65,7 +66,7 @@ public:
     return result;
   }
 
-  template <bool Adjacent>
+  template <bool Adjacent, bool>
   RNX_INLINE void store(s64 x, s64 apart, const Result& result) const {
     RNX_UNROLL
     for (int j = 0; j < Channels; ++j) {

@@ -8,21 +8,24 @@ namespace {
 
 using namespace simd;
 
-// W is the precision of the arithmetic. What is not a number becomes the smallest integer.
-template <class S, class D, class W>
+// W is the precision of the arithmetic. What is not a number becomes the smallest integer. Bounded: no result leaves
+// the int range, so that narrowing alone saturates.
+template <class S, class D, class W, bool kBounded>
 class MulAddFunctor {
 public:
   explicit MulAddFunctor(const ScaleCall& call)
       : factor_(Vec<W>::splat(static_cast<W>(call.factor))), sum_(Vec<W>::splat(static_cast<W>(call.sum))) {}
 
-  template <int N>
-  RNX_INLINE Block<D, N> operator()(const Block<S, N>& block) const {
+  template <class B, int N>  // lanes of S, or what they were widened to
+  RNX_INLINE Block<D, N> operator()(const Block<B, N>& block) const {
     const Vec<W> factor = factor_, sum = sum_;
     const auto exact = map(widenTo<W>(block), [=](Vec<W> v) RNX_INLINE_LAMBDA { return v * factor + sum; });
     if constexpr (std::is_same_v<D, W>) {
       return exact;
     } else if constexpr (std::is_same_v<D, f32>) {
       return narrowToSingle(exact);
+    } else if constexpr (kBounded) {
+      return roundIntsTo<D, ToNearestEven>(exact);
     } else {
       return simd::roundTo<D, ToNearestEven>(exact);
     }
@@ -32,12 +35,23 @@ private:
   Vec<W> factor_, sum_;
 };
 
-template <class S, class D, class W>
+// Whether all results are ints, whatever the source holds. False where a constant is not a number.
+template <class S>
+bool isBounded(const ScaleCall& call) {
+  constexpr f64 kMostSource = S(-1) < 0 ? f64{kLargest<S>} + 1 : f64{kLargest<S>}, kMost = 2147483000;
+  return __builtin_fabs(call.factor) * kMostSource + __builtin_fabs(call.sum) < kMost;
+}
+
+template <class S, class D, class W, bool kBounded = false>
 void mulAdd(const ScaleCall& call) {
-  MulAddFunctor<S, D, W> f(call);
-  forEachElement<AllChannels<D>>(
-      call.rows, static_cast<D*>(call.dst), call.dstStep, f,
-      ImageSource<S, Block<S, kStepOf<S, D>>>{static_cast<const S*>(call.src), call.srcStep});
+  constexpr bool kMayBeBounded = sizeof(S) <= 2 && sizeof(D) <= 2 && std::is_same_v<W, f32>;
+  if constexpr (kMayBeBounded && !kBounded) {
+    if (isBounded<S>(call)) return mulAdd<S, D, W, true>(call);
+  }
+  using Source = SourceBlock<S, W, kStepOf<S, D, W>>;
+  MulAddFunctor<S, D, W, kBounded> f(call);
+  forEachElement<AllChannels<D>>(call.rows, static_cast<D*>(call.dst), call.dstStep, f,
+                                 ImageSource<S, Source>{static_cast<const S*>(call.src), call.srcStep});
 }
 
 // Single precision has bits to spare for 8 and 16 bits.

@@ -184,10 +184,11 @@ private:
     for (int i = 0; i < kChunks; ++i) group.chunk[i] = loadChunks < Adjacent && kChunks == 1 > (p + i * kChunk, apart);
     return group;
   }
-  template <bool Adjacent>
+  template <bool Adjacent, bool Stream = false>
   static RNX_INLINE void store(u8* p, s64 apart, const Group& group) {
     RNX_UNROLL
-    for (int i = 0; i < kChunks; ++i) storeChunks<Adjacent && kChunks == 1>(p + i * kChunk, apart, group.chunk[i]);
+    for (int i = 0; i < kChunks; ++i)
+      storeChunks<Adjacent && kChunks == 1, Stream>(p + i * kChunk, apart, group.chunk[i]);
   }
   static RNX_INLINE Group merge(const Group& group, const Group& old) {
     Group merged;
@@ -218,6 +219,7 @@ private:
   }
 
   struct Reverse {
+    static constexpr bool kOneChunk = kChunks == 1;
     u8* dst;
     const u8* src;  // the last group
 
@@ -227,13 +229,14 @@ private:
       const Group group = reversed(load<false>(src - x * P, -apart * P));
       return Keeps ? merge(group, load<Adjacent>(dst + x * P, apart * P)) : group;
     }
-    template <bool Adjacent>
+    template <bool Adjacent, bool Stream>
     RNX_INLINE void store(s64 x, s64 apart, const Group& group) const {
-      PixelRow::store<Adjacent>(dst + x * P, apart * P, group);
+      PixelRow::store<Adjacent, Stream>(dst + x * P, apart * P, group);
     }
   };
 
   struct Fill {
+    static constexpr bool kOneChunk = kChunks == 1;
     u8* dst;
     Group pattern;
 
@@ -246,14 +249,15 @@ private:
     RNX_INLINE Group compute(s64 x, s64 apart) const {
       return Keeps ? merge(pattern, load<Adjacent>(dst + x * P, apart * P)) : pattern;
     }
-    template <bool Adjacent>
+    template <bool Adjacent, bool Stream>
     RNX_INLINE void store(s64 x, s64 apart, const Group& group) const {
-      PixelRow::store<Adjacent>(dst + x * P, apart * P, group);
+      PixelRow::store<Adjacent, Stream>(dst + x * P, apart * P, group);
     }
   };
 
   template <bool Reversed>
   struct Exchange {
+    static constexpr bool kOneChunk = false;
     u8 *a, *b;    // of b: the group that goes to the first of a
     s64 advance;  // bytes per pixel in b
 
@@ -267,7 +271,7 @@ private:
                   fromB = load < Adjacent && !Reversed > (b + x * advance, apart * advance);
       return {merge(Reversed ? reversed(fromB) : fromB, fromA), merge(Reversed ? reversed(fromA) : fromA, fromB)};
     }
-    template <bool Adjacent>
+    template <bool Adjacent, bool Stream>
     RNX_INLINE void store(s64 x, s64 apart, const Two& two) const {
       PixelRow::store<Adjacent>(a + x * P, apart * P, two.toA);
       PixelRow::store<Adjacent && !Reversed>(b + x * advance, apart * advance, two.toB);

@@ -30,9 +30,11 @@ inline const ScaleKernels& scaleKernels(const core::Rows& rows) {
   return core::wideRows(rows.bytesMoved) ? v256::scaleKernels : v128::scaleKernels;
 }
 
-// The kernel has a control state of its own. It is called through a pointer, so its arithmetic stays inside.
-inline RnxStatus runScale(ScaleKernel kernel, const ScaleCall& call) {
-  const simd::FloatState state;
+// The kernel has a control state of its own where one is needed. It is called through a pointer, so its arithmetic
+// stays inside.
+template <class State = simd::FloatState>
+RnxStatus runScale(ScaleKernel kernel, const ScaleCall& call) {
+  [[maybe_unused]] const State state;
   kernel(call);
   return rnxStatusNoError;
 }
@@ -56,15 +58,18 @@ template <class S, class D, class L>
 RnxStatus scale(const S* src, int srcStep, D* dst, int dstStep, RnxiSize roi) {
   if (const RnxStatus status = checkScale(src, srcStep, dst, dstStep, roi)) return status;
   const ScaleCall call = planScale<L>(src, srcStep, dst, dstStep, roi);
-  return runScale(formOf<L>(static_cast<const FullRange<S, D>&>(scaleKernels(call.rows)).forms), call);
+  return runScale<simd::NoFloatState>(formOf<L>(static_cast<const FullRange<S, D>&>(scaleKernels(call.rows)).forms),
+                                      call);
 }
 
+// 16-bit sources are scaled in integers.
 template <class S, class L>
 RnxStatus scaleToBytes(const S* src, int srcStep, u8* dst, int dstStep, RnxiSize roi, int hint) {
   if (const RnxStatus status = checkScale(src, srcStep, dst, dstStep, roi)) return status;
   const ScaleCall call = planScale<L>(src, srcStep, dst, dstStep, roi);
   const ToBytes<S>& kernels = scaleKernels(call.rows);
-  return runScale(formOf<L>(hint == rnxAlgHintAccurate ? kernels.accurate : kernels.fast), call);
+  using State = std::conditional_t<sizeof(S) == 2, simd::NoFloatState, simd::FloatState>;
+  return runScale<State>(formOf<L>(hint == rnxAlgHintAccurate ? kernels.accurate : kernels.fast), call);
 }
 
 // The range is refused before anything else is looked at.

@@ -13,19 +13,21 @@ struct FullRangeFunctor;
 
 template <>
 struct FullRangeFunctor<u8, u16> {
+  using Lane = u16;
   explicit FullRangeFunctor(const ScaleCall&) {}
   template <int N>
-  RNX_INLINE Block<u16, N> operator()(const Block<u8, N>& block) const {
-    return map(widenTo<s16>(block), [](Vec<s16> v) RNX_INLINE_LAMBDA { return v.as<u16>() * Vec<u16>::splat(257); });
+  RNX_INLINE Block<u16, N> operator()(const Block<s16, N>& block) const {  // the byte twice
+    return map(block, [](Vec<s16> v) RNX_INLINE_LAMBDA { return v.as<u16>() | Vec<u16>{v.as<u16>().raw << 8}; });
   }
 };
 
 // x * 257 - 32768
 template <>
 struct FullRangeFunctor<u8, s16> {
+  using Lane = s16;
   explicit FullRangeFunctor(const ScaleCall& call) : unsigned_(call) {}
   template <int N>
-  RNX_INLINE Block<s16, N> operator()(const Block<u8, N>& block) const {
+  RNX_INLINE Block<s16, N> operator()(const Block<s16, N>& block) const {
     return map(unsigned_(block), [](Vec<u16> v) RNX_INLINE_LAMBDA { return v.as<s16>() ^ Vec<s16>::splat(INT16_MIN); });
   }
   FullRangeFunctor<u8, u16> unsigned_;
@@ -34,10 +36,11 @@ struct FullRangeFunctor<u8, s16> {
 // x * 16843009 - 2^31: the byte four times
 template <>
 struct FullRangeFunctor<u8, s32> {
+  using Lane = s32;
   explicit FullRangeFunctor(const ScaleCall&) {}
   template <int N>
-  RNX_INLINE Block<s32, N> operator()(const Block<u8, N>& block) const {
-    return map(widenTo<s32>(block), [](Vec<s32> v) RNX_INLINE_LAMBDA {
+  RNX_INLINE Block<s32, N> operator()(const Block<s32, N>& block) const {
+    return map(block, [](Vec<s32> v) RNX_INLINE_LAMBDA {
       const Vec<u32> twice = v.as<u32>() | Vec<u32>{v.as<u32>().raw << 8};
       return (twice | Vec<u32>{twice.raw << 16}).as<s32>() ^ Vec<s32>::splat(INT32_MIN);
     });
@@ -47,10 +50,11 @@ struct FullRangeFunctor<u8, s32> {
 template <>
 struct FullRangeFunctor<u8, f32> {
 public:
+  using Lane = f32;
   explicit FullRangeFunctor(const ScaleCall& call)
       : low_(Vec<f32>::splat(call.low)), unit_(Vec<f32>::splat((call.high - call.low) / 255.0f)) {}
   template <int N>
-  RNX_INLINE Block<f32, N> operator()(const Block<u8, N>& block) const {
+  RNX_INLINE Block<f32, N> operator()(const Block<s32, N>& block) const {
     const Vec<f32> low = low_, unit = unit_;
     return map(widenTo<f32>(block), [low, unit](Vec<f32> v) RNX_INLINE_LAMBDA { return low + v * unit; });
   }
@@ -59,24 +63,46 @@ private:
   Vec<f32> low_, unit_;
 };
 
-// Clamped from above first, so that what is not a number becomes the largest value.
+// k * clamp(v) - k * low, where the clamps need not come first: rounding keeps the order, so that a v above `high`
+// comes to what `high` comes to or more, and one below `low` to 0 or less, which narrowing saturates. What is not a
+// number becomes what `high` comes to.
 template <>
 struct FullRangeFunctor<f32, u8> {
 public:
+  using Lane = f32;
   explicit FullRangeFunctor(const ScaleCall& call)
-      : low_(Vec<f32>::splat(call.low)),
-        high_(Vec<f32>::splat(call.high)),
-        perUnit_(Vec<f32>::splat(255.0f / (call.high - call.low))),
-        offset_(perUnit_ * low_) {}
+      : perUnit_(Vec<f32>::splat(255.0f / (call.high - call.low))),
+        offset_(perUnit_ * Vec<f32>::splat(call.low)),
+        most_(min(Vec<f32>::splat(255.0f), Vec<f32>::splat(call.high) * perUnit_ - offset_)) {}
   template <int N>
   RNX_INLINE Block<u8, N> operator()(const Block<f32, N>& block) const {
-    const Vec<f32> low = low_, high = high_, perUnit = perUnit_, offset = offset_;
-    return narrowTo<u8>(ToNearestEven::toInt(
-        map(block, [=](Vec<f32> v) RNX_INLINE_LAMBDA { return max(min(v, high), low) * perUnit - offset; })));
+    const Vec<f32> perUnit = perUnit_, offset = offset_, most = most_;
+    return roundIntsTo<u8, ToNearestEven>(
+        map(block, [=](Vec<f32> v) RNX_INLINE_LAMBDA { return min(v * perUnit - offset, most); }));
   }
 
 private:
-  Vec<f32> low_, high_, perUnit_, offset_;
+  Vec<f32> perUnit_, offset_, most_;
+};
+
+// A range so narrow that k is infinite: products by 0 are not numbers, which become 0, so that the clamps come first.
+struct NarrowRangeFunctor {
+public:
+  using Lane = f32;
+  explicit NarrowRangeFunctor(const ScaleCall& call)
+      : low_(Vec<f32>::splat(call.low)),
+        high_(Vec<f32>::splat(call.high)),
+        perUnit_(Vec<f32>::splat(255.0f / (call.high - call.low))) {}
+  static bool applies(const ScaleCall& call) { return 255.0f / (call.high - call.low) > 3.402823466e+38f; }
+  template <int N>
+  RNX_INLINE Block<u8, N> operator()(const Block<f32, N>& block) const {
+    const Vec<f32> low = low_, high = high_, perUnit = perUnit_;
+    return roundTo<u8, ToNearestEven>(
+        map(block, [=](Vec<f32> v) RNX_INLINE_LAMBDA { return max(min(v, high), low) * perUnit - low * perUnit; }));
+  }
+
+private:
+  Vec<f32> low_, high_, perUnit_;
 };
 
 // The value shifted into the unsigned range.
@@ -86,6 +112,7 @@ RNX_INLINE Vec<u32> unsignedRange(Vec<s32> v) { return v.as<u32>() ^ Vec<u32>::s
 
 template <class S>
 struct TopByte {
+  using Lane = S;
   explicit TopByte(const ScaleCall&) {}
   template <int N>
   RNX_INLINE Block<u8, N> operator()(const Block<S, N>& block) const {
@@ -101,11 +128,12 @@ struct TopByte {
 // (x * 65281 / 2^16 + 128) / 2^8 in integers.
 template <class S>
 struct Nearest {
+  using Lane = S;
   explicit Nearest(const ScaleCall&) {}
   template <int N>
   RNX_INLINE Block<u8, N> operator()(const Block<S, N>& block) const {
     return narrowTo<u8>(map(block, [](Vec<S> v) RNX_INLINE_LAMBDA {
-      const auto high = Vec<u16>::of(RNX_MM(mulhi_epu16)(unsignedRange(v).bits(), Vec<u16>::splat(65281).bits()));
+      const auto high = multiplyHigh(unsignedRange(v), Vec<u16>::splat(65281));
       return Vec<u16>{(high + Vec<u16>::splat(128)).raw >> 8}.template as<s16>();
     }));
   }
@@ -113,13 +141,14 @@ struct Nearest {
 
 template <>
 struct Nearest<s32> {
+  using Lane = s32;
   explicit Nearest(const ScaleCall&) {}
   template <int N>
   RNX_INLINE Block<u8, N> operator()(const Block<s32, N>& block) const {
     constexpr auto kRatio = static_cast<f32>(255.0 / 4294967295.0);
     const auto values = map(block, [](Vec<s32> v) RNX_INLINE_LAMBDA { return unsignedRange(v); });
-    return narrowTo<u8>(ToNearestEven::toInt(
-        map(widenTo<f32>(values), [](Vec<f32> v) RNX_INLINE_LAMBDA { return v * Vec<f32>::splat(kRatio); })));
+    return roundIntsTo<u8, ToNearestEven>(
+        map(widenTo<f32>(values), [](Vec<f32> v) RNX_INLINE_LAMBDA { return v * Vec<f32>::splat(kRatio); }));
   }
 };
 
@@ -127,9 +156,13 @@ struct Nearest<s32> {
 
 template <class S, class D, class Channels, class F>
 void scale(const ScaleCall& call) {
+  if constexpr (std::is_same_v<F, FullRangeFunctor<f32, u8>>) {
+    if (NarrowRangeFunctor::applies(call)) return scale<S, D, Channels, NarrowRangeFunctor>(call);
+  }
+  using Source = SourceBlock<S, typename F::Lane, kStepOf<S, D>>;
   F f(call);
   forEachElement<Channels>(call.rows, static_cast<D*>(call.dst), call.dstStep, f,
-                           ImageSource<S, Block<S, kStepOf<S, D>>>{static_cast<const S*>(call.src), call.srcStep});
+                           ImageSource<S, Source>{static_cast<const S*>(call.src), call.srcStep});
 }
 
 template <class S, class D, class F>

@@ -124,12 +124,7 @@ inline constexpr PassesOf<V> kPasses[kLargestButterfly + 1] = {{},
                                                                kPassesOf<V, 5>,
                                                                kPassesOf<V, 6>,
                                                                kPassesOf<V, 7>,
-                                                               kPassesOf<V, 8>,
-                                                               {},
-                                                               {},
-                                                               kPassesOf<V, 11>,
-                                                               {},
-                                                               kPassesOf<V, 13>};
+                                                               kPassesOf<V, 8>};
 
 enum class Direction { kForward, kInverse };
 

@@ -41,7 +41,7 @@ struct Radix {
 };
 
 constexpr Radix kRadices[] = {{61, 9.5f}, {59, 9.2f}, {53, 8.2f}, {47, 7.3f}, {43, 6.7f}, {41, 6.4f}, {37, 5.8f},
-                              {31, 4.9f}, {29, 4.6f}, {23, 3.9f}, {19, 3.6f}, {17, 3.5f}, {13, 3.3f}, {11, 3.0f},
+                              {31, 4.9f}, {29, 4.6f}, {23, 3.9f}, {19, 3.6f}, {17, 3.5f}, {13, 2.9f}, {11, 2.6f},
                               {8, 1.25f}, {7, 1.9f},  {6, 1.38f}, {5, 1.3f},  {4, 0.84f}, {3, 0.87f}, {2, 0.57f}};
 
 struct Factors {
@@ -151,7 +151,7 @@ void transformExactly(const Plan& plan, const Root* roots, Root* x) {
     const s64 radix = plan.radix[pass], part = blockSize / radix, turns = plan.size / blockSize;
     for (s64 i = 0; i < plan.size; ++i) {
       if (i % blockSize >= part) continue;  // i is the first point of a butterfly
-      Root in[13];
+      Root in[kLargestButterfly];           // chirps choose sizes of small radices
       for (s64 r = 0; r < radix; ++r) in[r] = x[i + r * part];
       for (s64 q = 0; q < radix; ++q) {
         Root sum = {0, 0};
@@ -250,8 +250,11 @@ s64 lineRows(s64 n) {
 
 s64 sizeOfPasses(s64 length) { return factorsOf(length).cost < INFINITY ? length : convolutionSize(2 * length - 1); }
 
+// Products of two sizes pass 64 bits as bytes. They stop where no size can be reported any more.
+s64 complexBytes(s64 points) { return std::min(points, s64{1} << 40) * kComplexBytes; }
+
 s64 imageBytes(const Spec& spec) {
-  return s64{spec.width} * spec.height * (spec.isReal != 0 ? kComplexBytes / 2 : kComplexBytes);
+  return complexBytes(s64{spec.width} * spec.height) / (spec.isReal != 0 ? 2 : 1);
 }
 
 void shapeLine(Spec& spec) {
@@ -286,14 +289,14 @@ void shapeImage(Spec& spec) {
   spec.gridHeight = static_cast<s32>(height);
   const s64 longest = std::max(sizeOfPasses(width), sizeOfPasses(height));
   const s64 paddedWidth = (spec.gridWidth + kMostLanes - 1) / kMostLanes * kMostLanes;
-  spec.stripBytes = alignUp(paddedWidth * height * kComplexBytes);
+  spec.stripBytes = alignUp(complexBytes(paddedWidth * height));
   spec.tileBytes = alignUp(kMostLanes * longest * kComplexBytes);
   const s64 need = spec.stripBytes + spec.tileBytes, limit = 2 * imageBytes(spec) + 2 * imageBytes(spec) / height;
   const s64 leastRows = isReal ? 2 * kMostLanes : kMostLanes;
   spec.shape = Shape::kGrid;
   if (height >= leastRows && spec.gridWidth >= kMostLanes && need <= std::max(limit, kStackWork)) return;
   spec.shape = Shape::kNarrow;
-  spec.stripBytes = alignUp(spec.gridWidth * height * kComplexBytes);
+  spec.stripBytes = alignUp(complexBytes(spec.gridWidth * height));
   spec.tileBytes = alignUp(longest * kComplexBytes);
 }
 

@@ -8,8 +8,8 @@ namespace rnx::fft {
 
 inline constexpr int kMaxPasses = 30;  // radix 2 alone reaches 2^28
 
-inline constexpr int kLargestButterfly = 13;  // radices up to here are unrolled
-inline constexpr int kLargestRadix = 61;      // larger primes are left to the chirp
+inline constexpr int kLargestButterfly = 8;  // radices up to here are unrolled
+inline constexpr int kLargestRadix = 61;     // larger primes are left to the chirp
 
 // The plan of one-dimensional transforms of one length. A length whose prime factors are all small is transformed by
 // passes of small radices. Any other becomes a circular convolution with a chirp, whose size is chosen freely:

@@ -44,7 +44,10 @@ private:
     for (s64 i = from; i < to; ++i) {
       const T* p0 = src + firstNeighbour(neighbours_, index_[i]) * C;
       const T* p1 = src + secondNeighbour(neighbours_, index_[i]) * C;
-      for (int c = 0; c < C; ++c) row[i * C + c] = (p1[c] - p0[c]) * fractions_[i] + p0[c];
+      for (int c = 0; c < C; ++c) {
+        const T value0 = simd::loadOne(p0 + c), value1 = simd::loadOne(p1 + c);
+        row[i * C + c] = (value1 - value0) * fractions_[i] + value0;
+      }
     }
   }
 

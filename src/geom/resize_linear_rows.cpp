@@ -194,6 +194,7 @@ public:
 private:
   static constexpr int kMostTableWindows = 2;
   static constexpr int kPairBytes = 2 * static_cast<int>(sizeof(T));
+  static constexpr s64 kPixelBytes = s64{C} * s64{sizeof(T)};
   static constexpr int kBlockElements = kBlockBytes / kPairBytes;
   static constexpr int kVectorElements = Vec<T>::kLanes;  // of a narrowed vector: two gathered ones
 
@@ -270,17 +271,18 @@ private:
 
   void collectPairs(const T* src) {
     u8* pair = picks_;
-    const auto append = [&](T value) {
-      __builtin_memcpy(pair, &value, sizeof(T));
+    const auto append = [&](const void* element) {  // wherever it lies
+      __builtin_memcpy(pair, element, sizeof(T));
       pair += sizeof(T);
     };
+    const auto* bytes = reinterpret_cast<const u8*>(src);
     for (s64 column = 0; column < elements_ / C; ++column) {
-      const T* p0 = core::at(src, 0, first(column) * C);
-      const T* p1 = core::at(src, 0, second(column) * C);
-      for (int c = 0; c < C; ++c) append(p0[c]), append(p1[c]);
+      const u8* p0 = bytes + first(column) * kPixelBytes;
+      const u8* p1 = bytes + second(column) * kPixelBytes;
+      for (s64 c = 0; c < kPixelBytes; c += s64{sizeof(T)}) append(p0 + c), append(p1 + c);
     }
     const u8* end = picks_ + vectors() * kVectorElements * kPairBytes;
-    while (pair < end) append(0);
+    __builtin_memset(pair, 0, static_cast<size_t>(end - pair));
   }
 
   template <int Windows, bool Ties>

@@ -1,7 +1,8 @@
 // Between lanes and bits: bit i stands for lane i.
 #pragma once
 
-#include "simd/rows.h"
+#include "simd/pixels.h"
+#include "simd/shuffle.h"
 
 namespace rnx::simd {
 namespace {
@@ -23,20 +24,47 @@ RNX_INLINE u32 signBits(Vec<M> mask) {
   }
 }
 
+// One bit for each lane of as many vectors as an element has bytes.
+template <class T>
+RNX_INLINE u32 bitsOfMasks(const Mask<T>* masks) {
+  if constexpr (sizeof(T) == 1) {
+    return signBits(masks[0]);
+  } else if constexpr (sizeof(T) == 4) {
+    return signBits(wordsToMemory(maskBytes(masks)));
+  } else {
+    const Vec<u8> bytes = maskBytes(masks);
+#if RNX_VECTOR_BYTES == 32
+    return signBits(Vec<u8>::of(_mm256_permute4x64_epi64(bytes.bits(), 0xD8)));
+#else
+    return signBits(bytes);
+#endif
+  }
+}
+
 // All ones in the lanes whose bits are 1.
 template <class T>
-RNX_INLINE Mask<T> spreadBits(u32 bits) {
-  using M = typename MaskOf<sizeof(T)>::Type;
-  Vec<M> own;  // the bit of each lane
-  for (int i = 0; i < Vec<M>::kLanes; ++i) own.raw[i] = static_cast<M>(1u << (i % (8 * static_cast<int>(sizeof(M)))));
-  Vec<M> all = Vec<s32>::splat(static_cast<s32>(bits)).template as<M>();
-  if constexpr (sizeof(M) == 2) all = Vec<M>::splat(static_cast<s16>(bits));
-  if constexpr (sizeof(M) == 1) {  // byte i / 8 of the bits into lane i
-    Vec<u8> index;
-    for (int i = 0; i < kBytes; ++i) index.raw[i] = static_cast<u8>(i / 8);
-    all = Vec<M>::of(RNX_MM(shuffle_epi8)(all.bits(), index.bits()));
+class BitSpreader {
+public:
+  BitSpreader() {
+    for (int b = 0; b < kBytes; ++b) {
+      const int lane = b / static_cast<int>(sizeof(T));
+      index_.raw[b] = static_cast<u8>(lane / 8);
+      own_.raw[b] = static_cast<u8>(1 << lane % 8);
+    }
   }
-  return equal(all & own, own);
+
+  // Of bits in every 8 bytes.
+  RNX_INLINE Mask<T> operator()(Vec<u64> bits) const {
+    return equal(shuffle(bits.as<u8>(), index_) & own_, own_).template as<typename MaskOf<sizeof(T)>::Type>();
+  }
+
+private:
+  Vec<u8> index_, own_;  // byte of the bits and bit of the byte, for each byte of the lanes
+};
+
+template <int N>
+RNX_INLINE Vec<u64> shiftBitsRight(Vec<u64> v) {
+  return Vec<u64>::of(RNX_MM(srli_epi64)(v.bits(), N));
 }
 
 // Parts of vectors are two overlapping halves (see rows.h): their bits, put in the order of n elements, and back.

@@ -1,6 +1,8 @@
 // Block<T, N>: N elements in memory order, as one vector of T or several.
 #pragma once
 
+#include <algorithm>
+
 #include "simd/vec.h"
 
 namespace rnx::simd {
@@ -46,9 +48,14 @@ RNX_INLINE auto map(const Block<T, N>& block, F f) {
   return result;
 }
 
-// How many elements a step takes that reads S and writes D: a whole vector of the smaller ones.
-template <class S, class D>
-inline constexpr int kStepOf = Vec<S>::kLanes > Vec<D>::kLanes ? Vec<S>::kLanes : Vec<D>::kLanes;
+// How many elements a step takes that reads S, works in lanes of W and writes D: four vectors of the largest, and at
+// least a whole vector of the smallest; a single vector where all are of one size.
+template <class S, class D, class W = D>
+inline constexpr int kStepOf = [] {
+  constexpr int kSizes[] = {sizeof(S), sizeof(D), sizeof(W)};
+  const int most = std::max({kSizes[0], kSizes[1], kSizes[2]}), least = std::min({kSizes[0], kSizes[1], kSizes[2]});
+  return most == least ? kBytes / most : std::max(4 * kBytes / most, kBytes / least);
+}();
 
 }  // namespace
 }  // namespace rnx::simd

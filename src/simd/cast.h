@@ -3,7 +3,7 @@
 #pragma once
 
 #include "simd/block.h"
-#include "simd/convert.h"
+#include "simd/halves.h"
 
 namespace rnx::simd {
 namespace {
@@ -106,6 +106,32 @@ RNX_INLINE Block<W, N> widenTo(const Block<T, N>& block) {
     return spreadAll<W>(widenTo<s32>(block), [](Vec<s32> v) { return spreadDouble(v); });
   }
 }
+
+// N elements of S in lanes of W, two or four times as large: widened while they are loaded, which saves taking vectors
+// apart.
+template <class W, class S, int N>
+struct WidenedBlock : Block<W, N> {
+  using Narrow = Block<S, N>;
+
+  static RNX_INLINE WidenedBlock of(const Narrow& block) { return {widenTo<W>(block)}; }
+  static RNX_INLINE WidenedBlock load(const S* p) {
+    WidenedBlock block;
+    RNX_UNROLL
+    for (int k = 0; k < block.kVectors; ++k) block.v[k] = loadWide<W>(p + k * Vec<W>::kLanes);
+    return block;
+  }
+};
+
+// What a kernel reads of S that works in lanes of W: integers in lanes of 16 or 32 bits where W is larger.
+template <class S, class W, int N>
+struct SourceBlockOf {
+  using Lane = std::conditional_t<sizeof(W) <= 2, s16, s32>;
+  static constexpr bool kWidens = std::is_integral_v<S> && sizeof(S) < sizeof(W) && sizeof(S) < sizeof(Lane);
+  using Type = typename std::conditional_t<kWidens, std::type_identity<WidenedBlock<Lane, S, N>>,
+                                           std::type_identity<Block<S, N>>>::type;
+};
+template <class S, class W, int N>
+using SourceBlock = typename SourceBlockOf<S, W, N>::Type;
 
 // ---- Two or four vectors become one, saturated ----
 

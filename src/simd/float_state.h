@@ -48,5 +48,9 @@ inline f64 squareRoot(f64 v) { return _mm_cvtsd_f64(_mm_sqrt_sd(_mm_setzero_pd()
 struct NoFloatState {};
 template <class... T>
 using FloatStateFor = std::conditional_t<(std::is_floating_point_v<T> || ...), FloatState, NoFloatState>;
+// The same of an exact conversion, which knows no direction: that of integers of up to 16 bits.
+template <class S, class D>
+using FloatStateOfConversion =
+    std::conditional_t<std::is_integral_v<S> && sizeof(S) <= 2, NoFloatState, FloatStateFor<S, D>>;
 
 }  // namespace rnx::simd

@@ -16,11 +16,22 @@ RNX_INLINE __m128i loadQuarter(const void* p) { return _mm_loadu_si32(p); }
 RNX_INLINE Vec<f64> loadHalfAsDouble(const f32* p) { return {_mm_cvtps_pd(_mm_castsi128_ps(loadHalf(p)))}; }
 #endif
 
+// As many elements as a vector of W has lanes, widened while they are loaded.
+// clang-format off
+template <class W, class T> Vec<W> loadWide(const T* p) = delete;
+template <> RNX_INLINE Vec<s16> loadWide(const u8* p) { return Vec<s16>::of(RNX_MM(cvtepu8_epi16)(loadHalf(p))); }
+template <> RNX_INLINE Vec<s16> loadWide(const s8* p) { return Vec<s16>::of(RNX_MM(cvtepi8_epi16)(loadHalf(p))); }
+template <> RNX_INLINE Vec<s32> loadWide(const u8* p) { return Vec<s32>::of(RNX_MM(cvtepu8_epi32)(loadQuarter(p))); }
+template <> RNX_INLINE Vec<s32> loadWide(const s8* p) { return Vec<s32>::of(RNX_MM(cvtepi8_epi32)(loadQuarter(p))); }
+template <> RNX_INLINE Vec<s32> loadWide(const u16* p) { return Vec<s32>::of(RNX_MM(cvtepu16_epi32)(loadHalf(p))); }
+template <> RNX_INLINE Vec<s32> loadWide(const s16* p) { return Vec<s32>::of(RNX_MM(cvtepi16_epi32)(loadHalf(p))); }
+// clang-format on
+
 // As many elements as a vector of floats has lanes. All of them are exact.
 RNX_INLINE Vec<f32> loadAsFloat(const f32* p) { return Vec<f32>::load(p); }
-RNX_INLINE Vec<f32> loadAsFloat(const u8* p) { return toFloat(Vec<s32>::of(RNX_MM(cvtepu8_epi32)(loadQuarter(p)))); }
-RNX_INLINE Vec<f32> loadAsFloat(const u16* p) { return toFloat(Vec<s32>::of(RNX_MM(cvtepu16_epi32)(loadHalf(p)))); }
-RNX_INLINE Vec<f32> loadAsFloat(const s16* p) { return toFloat(Vec<s32>::of(RNX_MM(cvtepi16_epi32)(loadHalf(p)))); }
+RNX_INLINE Vec<f32> loadAsFloat(const u8* p) { return toFloat(loadWide<s32>(p)); }
+RNX_INLINE Vec<f32> loadAsFloat(const u16* p) { return toFloat(loadWide<s32>(p)); }
+RNX_INLINE Vec<f32> loadAsFloat(const s16* p) { return toFloat(loadWide<s32>(p)); }
 
 // The lower half of the vector.
 template <class T>

@@ -23,11 +23,7 @@ struct PixelBlock {
     RNX_UNROLL
     for (int j = 0; j < kVectors; ++j) {
 #if RNX_VECTOR_BYTES == 32
-      if constexpr (kVectors == 1) {
-        block.v[j] = Vec<T>::of(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(pixels)));
-      } else {
-        block.v[j] = Vec<T>::of(_mm256_loadu2_m128i(at(kVectors + j), at(j)));
-      }
+      block.v[j] = Vec<T>::of(_mm256_loadu2_m128i(at(kVectors + j), at(j)));
 #else
       block.v[j] = Vec<T>::of(_mm_loadu_si128(at(j)));
 #endif
@@ -83,11 +79,6 @@ RNX_INLINE Int inEachLane(__m128i v) {
 // All ones where all C bytes of a pixel are.
 template <int C>
 Vec<u8> foldPixels(const Vec<u8>* bytes) = delete;
-
-template <>
-RNX_INLINE Vec<u8> foldPixels<1>(const Vec<u8>* bytes) {
-  return bytes[0];
-}
 
 template <>
 RNX_INLINE Vec<u8> foldPixels<4>(const Vec<u8>* bytes) {

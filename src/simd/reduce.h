@@ -136,9 +136,18 @@ struct PairSum {
 RNX_INLINE Vec<u64> sumOfBytes(Vec<u8> v) { return Vec<u64>::of(RNX_MM(sad_epu8)(v.bits(), Vec<u8>::zero().bits())); }
 // Of pairs of lanes below 2^15.
 RNX_INLINE Vec<u32> sumOfSquares(Vec<u16> v) { return Vec<u32>::of(RNX_MM(madd_epi16)(v.bits(), v.bits())); }
-RNX_INLINE Vec<u16> upperProduct(Vec<u16> a, Vec<u16> b) {
-  return Vec<u16>::of(RNX_MM(mulhi_epu16)(a.bits(), b.bits()));
-}
+RNX_INLINE Vec<u32> sumOfSquares(Vec<s16> v) { return Vec<u32>::of(RNX_MM(madd_epi16)(v.bits(), v.bits())); }
+
+// ---- Two doubles, in the builds of both widths: for sums whose order is promised ----
+
+struct TwoDoubles {
+  __m128d raw;
+
+  static RNX_INLINE TwoDoubles load(const f32* p) {  // of two floats
+    return {_mm_cvtps_pd(_mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p))))};
+  }
+};
+RNX_INLINE TwoDoubles magnitude(TwoDoubles v) { return {_mm_andnot_pd(_mm_set1_pd(-0.0), v.raw)}; }
 
 }  // namespace
 }  // namespace rnx::simd

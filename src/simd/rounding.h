@@ -17,7 +17,7 @@ struct ToZero {
   static RNX_INLINE V rounded(V v) {
     return roundTo<_MM_FROUND_TO_ZERO>(v);
   }
-  template <class T, int N>
+  template <class D, class T, int N>
   static RNX_INLINE Block<s32, N> toInt(const Block<T, N>& block) {
     return truncated(block);
   }
@@ -41,11 +41,11 @@ struct ToNearestEven {
   static RNX_INLINE V rounded(V v) {
     return roundTo<_MM_FROUND_TO_NEAREST_INT>(v);
   }
-  template <int N>
+  template <class D, int N>
   static RNX_INLINE Block<s32, N> toInt(const Block<f32, N>& block) {
     return toInts(block, [](Vec<f32> v) RNX_INLINE_LAMBDA { return nearestInt(v); });
   }
-  template <int N>
+  template <class D, int N>
   static RNX_INLINE Block<s32, N> toInt(const Block<f64, N>& block) {
     return toInts(block, [](Vec<f64> a, Vec<f64> b) RNX_INLINE_LAMBDA { return nearestInt(a, b); });
   }
@@ -67,9 +67,12 @@ struct HalfAway {
   static RNX_INLINE Vec<T> rounded(Vec<T> v) {
     return roundTo<_MM_FROUND_TO_ZERO>(withHalf(v));
   }
-  template <class T, int N>
+  // Where D has no sign, negative values need not be told apart: with a half they are below 1 and become 0.
+  template <class D, class T, int N>
   static RNX_INLINE Block<s32, N> toInt(const Block<T, N>& block) {
-    return ToZero::truncated(map(block, [](Vec<T> v) RNX_INLINE_LAMBDA { return withHalf(v); }));
+    return ToZero::truncated(map(block, [](Vec<T> v) RNX_INLINE_LAMBDA {
+      return std::is_unsigned_v<D> ? v + Vec<T>::splat(T(0.5)) : withHalf(v);
+    }));
   }
 };
 
@@ -78,18 +81,23 @@ constexpr D kSmallest = std::is_unsigned_v<D> ? D(0) : D(D(1) << (8 * sizeof(D) 
 template <class D>
 constexpr D kLargest = static_cast<D>(~kSmallest<D>);
 
-// 8 and 16 bits: what is too small for an int becomes INT_MIN, and narrowing saturates it.
+// Values in the int range to 8 or 16 bits; one that is too small for an int becomes INT_MIN, and narrowing saturates
+// it.
+template <class D, class Rounding, class T, int N>
+RNX_INLINE Block<D, N> roundIntsTo(const Block<T, N>& block) {
+  return narrowTo<D>(Rounding::template toInt<D>(block));
+}
+
 template <class D, class Rounding, class T, int N>
 RNX_INLINE Block<D, N> roundTo(const Block<T, N>& block) {
   if constexpr (sizeof(D) < 4) {
-    const auto capped =
-        map(block, [](Vec<T> v) RNX_INLINE_LAMBDA { return Rounding::capped(v, Vec<T>::splat(T(kLargest<D>))); });
-    return narrowTo<D>(Rounding::toInt(capped));
+    return roundIntsTo<D, Rounding>(
+        map(block, [](Vec<T> v) RNX_INLINE_LAMBDA { return Rounding::capped(v, Vec<T>::splat(T(kLargest<D>))); }));
   } else if constexpr (std::is_same_v<T, f64>) {
     static_assert(std::is_same_v<D, s32>, "limits of 32 bits are exact in double precision");
     const auto capped =
         map(block, [](Vec<f64> v) RNX_INLINE_LAMBDA { return Rounding::capped(v, Vec<f64>::splat(2147483647.0)); });
-    return Rounding::toInt(capped);  // what is too small becomes INT_MIN, which is right
+    return Rounding::template toInt<D>(capped);  // what is too small becomes INT_MIN, which is right
   } else if constexpr (std::is_signed_v<D>) {
     return map(block, [](Vec<f32> v) RNX_INLINE_LAMBDA {
       constexpr f32 kBeyond = 2147483648.0f;  // the largest value is not a float: 2^31 converts to INT_MIN, inverted

@@ -99,6 +99,8 @@ template <class V, class T>
 RNX_INLINE V loadPartOf(const T* p, int n) {
   if constexpr (std::is_same_v<V, Vec<T>>) {
     return loadPart(p, n);
+  } else if constexpr (requires { typename V::Narrow; }) {
+    return V::of(loadPartOf<typename V::Narrow>(p, n));
   } else {
     V block;
     const int half = halfOf(n);
@@ -294,37 +296,44 @@ RNX_INLINE void longRows(const core::Rows& rows, T* dst, s64 dstStep, F& functor
   functor = f;
 }
 
-// The same with the functor in the code once, the vector at the end being the loop's first: for blocks, for functors
-// that say that they are long (kLong), and for layouts with alpha, which would double all code.
+// The same with the functor in the code once: for blocks, for functors that say that they are long (kLong), and for
+// layouts with alpha, which would double all code. The loop runs for the vector at the end, which waits in `tail` until
+// the row is written, for the one in front of the body where stores go around the caches, and for the body.
 template <class Channels, class T, class F, class... Sources>
 RNX_INLINE void longRowsInOneLoop(const core::Rows& rows, T* dst, s64 dstStep, F& functor, Sources... sources) {
   using V = ResultOf<F, Sources...>;
   constexpr int L = V::kLanes;
+  enum class Part { kTail, kHead, kBody };
+  alignas(kBytes) T tail[L];
   const auto placement = reinterpret_cast<uintptr_t>(dst) | static_cast<uintptr_t>(dstStep);
   const s64 n = rows.width, last = n - L;
   const bool stream =
       rows.walk == core::Walk::kStream && !Channels::kKeepsAlpha && placement % sizeof(T) == 0 && n >= 4 * L;
+  const bool ragged = n % L != 0 || stream;
   F f = functor;
   for (s64 y = 0; y < rows.height; ++y) {
-    const s64 head = stream ? elementsToAlignment(dst) : n;  // where stores around the caches begin
-    bool atEnd = n % L != 0 || stream;
-    const bool ragged = atEnd;
-    V tail = V::zero();
-    for (s64 i = 0; atEnd || i <= last;) {
-      const s64 at = atEnd ? last : i;
-      const V v = Channels::merge(f(sources.at(at)...), oldVector<Channels, V>(dst + at));
-      if (atEnd) {
-        tail = v;
-        atEnd = false;
-      } else if (i >= head) {
-        v.stream(dst + i);
+    Part part = ragged ? Part::kTail : Part::kBody;
+    s64 i = ragged ? last : 0, end = last;
+    T* to = ragged ? core::at(tail, 0, -last) : dst;
+    bool around = false;
+    while (true) {
+      do {
+        const V v = Channels::merge(f(sources.at(i)...), oldVector<Channels, V>(dst + i));
+        if (around) {
+          v.stream(to + i);
+        } else {
+          v.store(to + i);
+        }
         i += L;
-      } else {
-        v.store(dst + i);
-        i = stream ? head : i + L;
-      }
+      } while (i <= end);
+      if (part == Part::kBody) break;
+      to = dst;
+      around = part == Part::kHead;
+      i = around ? elementsToAlignment(dst) : 0;
+      part = stream && !around ? Part::kHead : Part::kBody;
+      end = part == Part::kHead ? 0 : last;
     }
-    if (ragged) tail.store(dst + last);
+    if (ragged) V::load(tail).store(dst + last);
     dst = core::at(dst, dstStep);
     (sources.nextRow(), ...);
   }

@@ -28,6 +28,12 @@ RNX_INLINE Vec<s16> average(Vec<s16> a, Vec<s16> b) {  // of the values moved in
   return average((a ^ bias).as<u16>(), (b ^ bias).as<u16>()).as<s16>() ^ bias;
 }
 
+// |v|, of the smallest value too.
+RNX_INLINE Vec<u16> magnitude(Vec<s16> v) { return Vec<u16>::of(RNX_MM(abs_epi16)(v.bits())); }
+RNX_INLINE Vec<u32> magnitude(Vec<s32> v) { return Vec<u32>::of(RNX_MM(abs_epi32)(v.bits())); }
+RNX_INLINE Vec<s16> withSign(Vec<u16> m, Vec<s16> of) { return Vec<s16>::of(RNX_MM(sign_epi16)(m.bits(), of.bits())); }
+RNX_INLINE Vec<s32> withSign(Vec<u32> m, Vec<s32> of) { return Vec<s32>::of(RNX_MM(sign_epi32)(m.bits(), of.bits())); }
+
 // ---- Widening to twice the size. W says whether the wide lanes are signed. ----
 
 template <class W> RNX_INLINE Pair<W> widen(Vec<u8> v) {

@@ -55,6 +55,22 @@ RNX_INLINE void storeChunks(u8* p, s64 apart, Vec<u8> v) {
     storeChunks(p, apart, v);
   }
 }
+// With Stream around the caches, to places that are multiples of what is stored in one piece.
+template <bool Adjacent, bool Stream>
+RNX_INLINE void storeChunks(u8* p, s64 apart, Vec<u8> v) {
+  if constexpr (!Stream) {
+    storeChunks<Adjacent>(p, apart, v);
+  } else if constexpr (Adjacent) {
+    v.stream(p);
+  } else {
+    _mm_stream_si128(reinterpret_cast<__m128i*>(p), firstGroup(v));
+#if RNX_VECTOR_BYTES == 32
+    _mm_stream_si128(reinterpret_cast<__m128i*>(p + apart), _mm256_extracti128_si256(v.bits(), 1));
+#endif
+  }
+}
+// Behind the last of them: other threads see the results from here on.
+RNX_INLINE void endStream() { _mm_sfence(); }
 
 // 4, 8 or 16 bytes at the start of the chunks.
 template <int Bytes>
@@ -75,6 +91,16 @@ RNX_INLINE Vec<u8> loadStarts(const u8* p, [[maybe_unused]] s64 apart) {
 // Byte b of a chunk becomes byte index[b] of it, or 0 where the index has its top bit set.
 RNX_INLINE Vec<u8> shuffle(Vec<u8> v, Vec<u8> index) {
   return Vec<u8>::of(RNX_MM(shuffle_epi8)(v.bits(), index.bits()));
+}
+
+// The fourth element of each pixel, of bytes or words, in all words of the pixel.
+RNX_INLINE Vec<u16> fourthAsWords(Vec<u32> pixels) {
+  const auto index = everyGroup(_mm_setr_epi8(3, -1, 3, -1, 7, -1, 7, -1, 11, -1, 11, -1, 15, -1, 15, -1));
+  return shuffle(pixels.as<u8>(), index).as<u16>();
+}
+RNX_INLINE Vec<u16> fourthAsWords(Vec<u64> pixels) {
+  const auto index = everyGroup(_mm_setr_epi8(6, 7, 6, 7, 6, 7, 6, 7, 14, 15, 14, 15, 14, 15, 14, 15));
+  return shuffle(pixels.as<u8>(), index).as<u16>();
 }
 
 // Positions in a group, counted from its first chunk, as a shuffle index into chunk number `chunk`: those that lie
@@ -124,21 +150,135 @@ RNX_INLINE Vec<u8> firstBytes(Vec<u8> a, Vec<u8> b) {
   return Vec<u8>::of(RNX_MM(blend_epi16)(a.bits(), b.bits(), 0xff & (0xff << (Count / 2))));
 }
 
-// Walks the groups of a row of n >= group pixels. `f.compute<adjacent>(x, apart)` reads and computes the group at pixel
-// x and the one `apart` pixels further, `f.store<adjacent>(x, apart, result)` writes them; adjacent: the second group
-// follows the first. The groups at the end overlap ones that are written anyway; they are computed before anything is
-// written, which makes that right in place too.
+// ---- Adjacent groups as whole registers ----
+//
+// Where the wide build has the chunks of one group in the first halves of its registers and those of the next one in
+// the second halves, memory has them one group behind the other. These bring registers into the order of memory; in the
+// narrow build, with one group, there is nothing to do.
+
+// a for the first group, b for the last one.
+RNX_INLINE Vec<u8> firstAndLast([[maybe_unused]] Vec<u8> a, Vec<u8> b) {
+#if RNX_VECTOR_BYTES == 32
+  return bothGroups(firstGroup(a), firstGroup(b));
+#else
+  return b;
+#endif
+}
+
+// Register j of the three that a group has: from tables that are the same for both groups.
+RNX_INLINE Vec<u8> registerOfThree(const Vec<u8>* chunks, int j) {
+#if RNX_VECTOR_BYTES == 32
+  return firstAndLast(chunks[2 * j % 3], chunks[(2 * j + 1) % 3]);
+#else
+  return chunks[j];
+#endif
+}
+// Groups of one chunk at p that become three: for each half of register j the chunk of its group.
+RNX_INLINE Vec<u8> chunkForThree(const u8* p, [[maybe_unused]] int j) {
+#if RNX_VECTOR_BYTES == 32
+  return j == 1 ? Vec<u8>::load(p) : everyGroup(loadChunk(p + j / 2 * kChunk));
+#else
+  return everyGroup(loadChunk(p));
+#endif
+}
+
+// Four-byte word i of a half of v belongs to, or comes from, register i of four that follow each other in memory.
+RNX_INLINE Vec<u8> wordsToMemory(Vec<u8> v) {
+#if RNX_VECTOR_BYTES == 32
+  return Vec<u8>::of(_mm256_permutevar8x32_epi32(v.bits(), _mm256_setr_epi32(0, 4, 1, 5, 2, 6, 3, 7)));
+#else
+  return v;
+#endif
+}
+RNX_INLINE Vec<u8> wordsFromMemory(Vec<u8> v) {
+#if RNX_VECTOR_BYTES == 32
+  return Vec<u8>::of(_mm256_permutevar8x32_epi32(v.bits(), _mm256_setr_epi32(0, 2, 4, 6, 1, 3, 5, 7)));
+#else
+  return v;
+#endif
+}
+
+// The first 12 bytes of each chunk of four registers that follow each other, without the gaps between them. `turned`
+// are the registers with chunk i turned by 12 i bytes.
+RNX_INLINE void joinTwelves(const Vec<u8> (&turned)[4], Vec<u8>* joined) {
+  joined[0] = firstBytes<12>(turned[0], turned[1]);
+  joined[1] = firstBytes<8>(turned[1], turned[2]);
+  joined[2] = firstBytes<4>(turned[2], turned[3]);
+}
+#if RNX_VECTOR_BYTES == 32
+RNX_INLINE void joinTwelvesInMemory(const Vec<u8> (&v)[4], Vec<u8>* joined) {
+  const auto words = [&](int i, auto... word) RNX_INLINE_LAMBDA {
+    return _mm256_permutevar8x32_epi32(v[i].bits(), _mm256_setr_epi32(word...));
+  };
+  constexpr int kAny = 0;
+  const Int a = words(0, 0, 1, 2, 4, 5, 6, kAny, kAny), b = words(1, 2, 4, 5, 6, kAny, kAny, 0, 1);
+  const Int c = words(2, 5, 6, kAny, kAny, 0, 1, 2, 4), d = words(3, kAny, kAny, 0, 1, 2, 4, 5, 6);
+  joined[0] = Vec<u8>::of(_mm256_blend_epi32(a, b, 0xC0));
+  joined[1] = Vec<u8>::of(_mm256_blend_epi32(b, c, 0xF0));
+  joined[2] = Vec<u8>::of(_mm256_blend_epi32(c, d, 0xFC));
+}
+#endif
+
+// The chunk turned to the left in memory's sense: byte b goes to byte b + Bytes, modulo a chunk.
+template <int Bytes>
+RNX_INLINE __m128i turnChunk(__m128i v) {
+  return _mm_alignr_epi8(v, v, (kChunk - Bytes % kChunk) % kChunk);
+}
+
+// ---- Rows ----
+
+// Walks the groups of a row of n >= group pixels; `group` is a power of two. `f.compute<adjacent>(x, apart)` reads and computes the group at pixel
+// x and the one `apart` pixels further, `f.store<adjacent, stream>(x, apart, result)` writes them; adjacent: the second
+// group follows the first. The groups at the end overlap ones that are written anyway; they are computed before
+// anything is written, which makes that right in place too.
 template <class F>
 RNX_INLINE void forEachGroup(s64 n, int group, const F& f) {
   const s64 span = s64{group} * kGroups;
   const auto body = [&]() __attribute__((always_inline)) {
-    for (s64 x = 0; x + span <= n; x += span) f.template store<true>(x, group, f.template compute<true>(x, group));
+    s64 x = 0;
+    if constexpr (F::kOneChunk) {  // little to do for one round of a loop
+      for (; x + 2 * span <= n; x += 2 * span) {
+        const auto first = f.template compute<true>(x, group), second = f.template compute<true>(x + span, group);
+        f.template store<true, false>(x, group, first);
+        f.template store<true, false>(x + span, group, second);
+      }
+    }
+    for (; x + span <= n; x += span) {
+      f.template store<true, false>(x, group, f.template compute<true>(x, group));
+    }
   };
-  if (n % span == 0) return body();
+  if ((n & (span - 1)) == 0) return body();
   const s64 last = std::max<s64>(n - span, 0), apart = n - group - last;
   const auto tail = f.template compute<false>(last, apart);
   body();
-  f.template store<false>(last, apart, tail);
+  f.template store<false, false>(last, apart, tail);
+}
+
+// The same around the caches, for results apart from the sources: from pixel `head` on, which is less than a span, the
+// results lie where such stores can go.
+template <class F>
+RNX_INLINE void forEachGroupStreamed(s64 n, int group, s64 head, const F& f) {
+  const s64 span = s64{group} * kGroups, last = n - span, apart = group;
+  f.template store<false, false>(0, apart, f.template compute<false>(0, apart));
+  for (s64 x = head; x + span <= n; x += span) {
+    f.template store<true, true>(x, group, f.template compute<true>(x, group));
+  }
+  f.template store<false, false>(last, apart, f.template compute<false>(last, apart));
+}
+
+// Pixels until rows of pixels of so many bytes reach a place for stores around the caches, or -1 where they never do.
+inline s64 pixelsToAlignment(const u8* p, s64 pixelBytes) {
+  for (s64 x = 0; x < kBytes; ++x) {
+    if ((reinterpret_cast<uintptr_t>(p) + static_cast<uintptr_t>(x * pixelBytes)) % kBytes == 0) return x;
+  }
+  return -1;
+}
+
+template <class Byte>
+bool sameAlignment(Byte* const* pointers, int n) {
+  return std::all_of(pointers, pointers + n, [&](const u8* p) {
+    return (reinterpret_cast<uintptr_t>(p) - reinterpret_cast<uintptr_t>(pointers[0])) % kBytes == 0;
+  });
 }
 
 }  // namespace

@@ -105,6 +105,14 @@ template <class T> RNX_INLINE Vec<T> operator^(Vec<T> a, Vec<T> b) { return {a.r
 template <class T> RNX_INLINE Vec<T> operator~(Vec<T> a) { return {~a.raw}; }
 // clang-format on
 
+// One element. Images of callers need not be aligned to their elements.
+template <class T>
+RNX_INLINE T loadOne(const T* p) {
+  T value;
+  __builtin_memcpy(&value, p, sizeof(T));
+  return value;
+}
+
 // The same vector, in a register from here on. Compilers load a vector again for each of its uses, which is dear where
 // loads are what limits a loop.
 template <class T>

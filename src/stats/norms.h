@@ -39,14 +39,16 @@ template <class T>
 using Reduction = ByChannels<T> Reductions<T>::*;
 
 // Whether a result in single precision is as near as promised: nothing has left the range of the type, and of squares
-// so little was lost below it (2^-150 each) that it does not count.
+// so little was lost below it (2^-150 each) that it does not count; nothing at all where the largest element is 0.
 template <class L>
-bool isReliable(const f64* results, RnxiSize roi, bool squares) {
+bool isReliable(const f64* results, RnxiSize roi, bool squares, const f64* largest = nullptr) {
   const f64 least = squares ? 0x1p-126 * static_cast<f64>(s64{roi.width} * roi.height) : 0;
-  return std::all_of(results, results + L::kChannels, [=](f64 v) {
-    const bool finite = (std::bit_cast<u64>(v) & 0x7ff0000000000000) != 0x7ff0000000000000;
-    return finite && (!squares || v >= least);
-  });
+  for (int c = 0; c < L::kChannels; ++c) {
+    const bool finite = (std::bit_cast<u64>(results[c]) & 0x7ff0000000000000) != 0x7ff0000000000000;
+    const bool lost = squares && results[c] < least && (largest == nullptr || std::bit_cast<u64>(largest[c]) != 0);
+    if (!finite || lost) return false;
+  }
+  return true;
 }
 
 // The control state is set by the caller of this.
@@ -63,19 +65,25 @@ void reduce(Reduction<T> reduction, const Images<T>& images, RnxiSize roi, f64* 
                         .height = roi.height,
                         .results = results};
   const auto& table = kernelsOf(kernels(bytes * roi.height), T{});
-  const auto run = [&](const Reductions<T>& r) { forChannels<L>(r.*reduction)(call); };
+  const auto run = [&](const Reductions<T>& r, Reduction<T> which) { forChannels<L>(r.*which)(call); };
   if constexpr (std::is_same_v<T, f32>) {
-    if (accurate) return run(two ? table.accurateDifference : table.accurateImage);
+    if (accurate) return run(two ? table.accurateDifference : table.accurateImage, reduction);
   }
   if (images.firstStep == bytes && (!two || images.secondStep == bytes)) {
     call.width *= roi.height;
     call.height = 1;
   }
-  run(two ? table.difference : table.image);
+  run(two ? table.difference : table.image, reduction);
   if constexpr (std::is_same_v<T, f32>) {
-    if (!isReliable<L>(results, roi, reduction == &Reductions<T>::squares)) {
-      reduce<L>(reduction, images, roi, results, true);
+    const bool squares = reduction == &Reductions<T>::squares;
+    if (isReliable<L>(results, roi, squares)) return;
+    if (squares) {  // often of equal images
+      f64 largest[kMaxChannels];
+      call.results = largest;
+      run(two ? table.difference : table.image, &Reductions<T>::largest);
+      if (isReliable<L>(results, roi, squares, largest)) return;
     }
+    reduce<L>(reduction, images, roi, results, true);
   }
 }
 

@@ -23,12 +23,13 @@ struct OfImage {
   template <class T>
   static RNX_INLINE auto magnitude(Vec<T> v) {
     if constexpr (std::is_same_v<T, s16>) {
-      return Vec<u16>::of(RNX_MM(abs_epi16)(v.bits()));
+      return simd::magnitude(v);
     } else {
       return v;
     }
   }
   static RNX_INLINE Vec<f32> value(Vec<f32> v) { return v; }
+  static RNX_INLINE TwoDoubles exact(const f32* v, const f32*) { return TwoDoubles::load(v); }
   static f64 exact(const f32* v, const f32*, s64 i) { return f64{v[i]}; }
 };
 
@@ -42,6 +43,9 @@ struct OfDifference {
     }
   }
   static RNX_INLINE Vec<f32> value(Vec<f32> a, Vec<f32> b) { return a - b; }
+  static RNX_INLINE TwoDoubles exact(const f32* a, const f32* b) {
+    return {TwoDoubles::load(a).raw - TwoDoubles::load(b).raw};
+  }
   static f64 exact(const f32* a, const f32* b, s64 i) { return f64{a[i]} - f64{b[i]}; }
 };
 
@@ -52,31 +56,33 @@ struct Totals {
   u64 of[C] = {};
 
   template <class T>
-  void add(Vec<T> lanes, int first, int stride) {
+  RNX_INLINE void add(Vec<T> lanes, int first, int stride) {
+    RNX_UNROLL
     for (int j = 0; j < Vec<T>::kLanes; ++j) of[(first + j * stride) % C] += static_cast<u64>(lanes.raw[j]);
   }
-  void deliver(f64* results, u64 weight = 1) const {
-    for (int c = 0; c < C; ++c) results[c] = static_cast<f64>(static_cast<s64>(of[c] * weight));
+  void deliver(f64* results) const {
+    for (int c = 0; c < C; ++c) results[c] = static_cast<f64>(of[c]);
   }
 };
 
-// Sums of 16-bit terms, each standing for one of `stride` elements, `offset` behind the first.
-template <int C, int kElements>
+// Sums of 16-bit terms, each standing for one of kStride elements, kOffset behind the first; a vector has kElements.
+template <int C, int kElements, int kStride, int kOffset>
 class WordSums {
 public:
   static constexpr int kRounds = PairSum<u16>::kMostTerms / kAddsPerRound<C> / 2;
 
   RNX_INLINE void add(int k, Vec<u16> terms) { sums_[k % kApart<C>].add(terms); }
   // After so many additions to each.
-  RNX_INLINE void count(int added, Totals<C>& totals, int stride, int offset) {
+  RNX_INLINE void count(int added, Totals<C>& totals) {
     pending_ += added;
-    if (pending_ > PairSum<u16>::kMostTerms / 2) spill(totals, stride, offset);
+    if (pending_ > PairSum<u16>::kMostTerms / 2) spill(totals);
   }
-  void spill(Totals<C>& totals, int stride, int offset) {
+  void spill(Totals<C>& totals) {
+    RNX_UNROLL
     for (int p = 0; p < kApart<C>; ++p) {
-      const int first = p * kElements + offset;
-      totals.add(sums_[p].low(), first, 2 * stride);
-      totals.add(sums_[p].high(), first + stride, 2 * stride);
+      const int first = p * kElements + kOffset;
+      totals.add(sums_[p].low(), first, 2 * kStride);
+      totals.add(sums_[p].high(), first + kStride, 2 * kStride);
       sums_[p] = {};
     }
     pending_ = 0;
@@ -103,18 +109,19 @@ public:
       odd_.add(p, sums_[p].high());
       sums_[p] = {};
     }
-    even_.count(1, totals_, 2, 0);
-    odd_.count(1, totals_, 2, 1);
+    even_.count(1, totals_);
+    odd_.count(1, totals_);
   }
   void deliver(f64* results) {
-    even_.spill(totals_, 2, 0);
-    odd_.spill(totals_, 2, 1);
+    even_.spill(totals_);
+    odd_.spill(totals_);
     totals_.deliver(results);
   }
 
 private:
   PairSum<u8> sums_[kApart<C>];
-  WordSums<C, Vec<u8>::kLanes> even_, odd_;
+  WordSums<C, Vec<u8>::kLanes, 2, 0> even_;
+  WordSums<C, Vec<u8>::kLanes, 2, 1> odd_;
   Totals<C> totals_;
 };
 
@@ -137,17 +144,18 @@ private:
 template <int C>
 class Words {
 public:
-  static constexpr int kRounds = WordSums<C, Vec<u16>::kLanes>::kRounds;
+  using Sums = WordSums<C, Vec<u16>::kLanes, 1, 0>;
+  static constexpr int kRounds = Sums::kRounds;
 
   RNX_INLINE void add(int k, Vec<u16> terms) { sums_.add(k, terms); }
-  RNX_INLINE void flush(int rounds) { sums_.count(rounds * kAddsPerRound<C>, totals_, 1, 0); }
+  RNX_INLINE void flush(int rounds) { sums_.count(rounds * kAddsPerRound<C>, totals_); }
   void deliver(f64* results) {
-    sums_.spill(totals_, 1, 0);
+    sums_.spill(totals_);
     totals_.deliver(results);
   }
 
 private:
-  WordSums<C, Vec<u16>::kLanes> sums_;
+  Sums sums_;
   Totals<C> totals_;
 };
 
@@ -155,7 +163,7 @@ private:
 template <int C>
 class ByteSquares {
 public:
-  static constexpr int kRounds = WordSums<C, Vec<u8>::kLanes>::kRounds;
+  static constexpr int kRounds = WordSums<C, Vec<u8>::kLanes, 2, 0>::kRounds;
 
   RNX_INLINE void add(int k, Vec<u8> terms) {
     const Vec<u16> even = terms.as<u16>() & Vec<u16>::splat(0xff), odd = {terms.as<u16>().raw >> 8};
@@ -163,17 +171,18 @@ public:
     odd_.add(k, odd * odd);
   }
   RNX_INLINE void flush(int rounds) {
-    even_.count(rounds * kAddsPerRound<C>, totals_, 2, 0);
-    odd_.count(rounds * kAddsPerRound<C>, totals_, 2, 1);
+    even_.count(rounds * kAddsPerRound<C>, totals_);
+    odd_.count(rounds * kAddsPerRound<C>, totals_);
   }
   void deliver(f64* results) {
-    even_.spill(totals_, 2, 0);
-    odd_.spill(totals_, 2, 1);
+    even_.spill(totals_);
+    odd_.spill(totals_);
     totals_.deliver(results);
   }
 
 private:
-  WordSums<C, Vec<u8>::kLanes> even_, odd_;
+  WordSums<C, Vec<u8>::kLanes, 2, 0> even_;
+  WordSums<C, Vec<u8>::kLanes, 2, 1> odd_;
   Totals<C> totals_;
 };
 
@@ -206,26 +215,49 @@ private:
 template <int C>
 class WordSquares {
 public:
-  static constexpr int kRounds = WordSums<C, Vec<u16>::kLanes>::kRounds;
+  using Sums = WordSums<C, Vec<u16>::kLanes, 1, 0>;
+  static constexpr int kRounds = Sums::kRounds;
 
   RNX_INLINE void add(int k, Vec<u16> terms) {
     low_.add(k, terms * terms);
-    high_.add(k, upperProduct(terms, terms));
+    high_.add(k, multiplyHigh(terms, terms));
   }
   RNX_INLINE void flush(int rounds) {
-    low_.count(rounds * kAddsPerRound<C>, lowTotals_, 1, 0);
-    high_.count(rounds * kAddsPerRound<C>, highTotals_, 1, 0);
+    low_.count(rounds * kAddsPerRound<C>, lowTotals_);
+    high_.count(rounds * kAddsPerRound<C>, highTotals_);
   }
   void deliver(f64* results) {
-    low_.spill(lowTotals_, 1, 0);
-    high_.spill(highTotals_, 1, 0);
+    low_.spill(lowTotals_);
+    high_.spill(highTotals_);
     for (int c = 0; c < C; ++c) lowTotals_.of[c] += highTotals_.of[c] << 16;
     lowTotals_.deliver(results);
   }
 
 private:
-  WordSums<C, Vec<u16>::kLanes> low_, high_;
+  Sums low_, high_;
   Totals<C> lowTotals_, highTotals_;
+};
+
+// Squares of signed words, in pairs: up to 2^31, summed as the halves of 64 bits as in PairSum.
+class SignedSquares {
+public:
+  static constexpr int kRounds = 1 << 20;
+
+  RNX_INLINE void add(int, Vec<s16> terms) {
+    const Vec<u64> pairs = sumOfSquares(terms).as<u64>();
+    whole_ = whole_ + pairs;
+    upper_ = upper_ + Vec<u64>{pairs.raw >> 32};
+  }
+  RNX_INLINE void flush(int) {}
+  void deliver(f64* results) {
+    Totals<1> totals;
+    totals.add(whole_ - Vec<u64>{upper_.raw << 32}, 0, 1);
+    totals.add(upper_, 0, 1);
+    totals.deliver(results);
+  }
+
+private:
+  Vec<u64> whole_ = Vec<u64>::zero(), upper_ = Vec<u64>::zero();
 };
 
 // The largest of each lane. Floats come as the bits of their magnitudes, which as integers are in the same order; what
@@ -293,7 +325,7 @@ private:
 
 // ---- Operations: from an element to a term ----
 
-RNX_INLINE Vec<f32> absolute(Vec<f32> v) { return {RNX_MM(and_ps)(v.raw, Vec<s32>::splat(INT32_MAX).as<f32>().raw)}; }
+RNX_INLINE Vec<f32> absolute(Vec<f32> v) { return (v.as<s32>() & Vec<s32>::splat(INT32_MAX)).as<f32>(); }
 
 // Elements with their sign moved into the unsigned range.
 template <class T>
@@ -318,32 +350,36 @@ struct SumAccumulator<f32, C> {
   using Type = FloatSums<C>;
 };
 
-template <class T, int C>
+template <class Of, class T, int C>
 struct SquareAccumulator {
   using Type = WordSquares<C>;
 };
-template <int C>
-struct SquareAccumulator<u8, C> {
+template <class Of, int C>
+struct SquareAccumulator<Of, u8, C> {
   using Type = ByteSquares<C>;
 };
-template <int C>
-struct SquareAccumulator<f32, C> {
+template <>
+struct SquareAccumulator<OfImage, s16, 1> {
+  using Type = SignedSquares;
+};
+template <class Of, int C>
+struct SquareAccumulator<Of, f32, C> {
   using Type = FloatSums<C>;
 };
 
 struct Sum {
-  template <class T, int C>
+  template <class Of, class T, int C>
   using Accumulator = typename SumAccumulator<T, C>::Type;
-  template <class Of, class T>
+  template <class Of, int C, class T>
   static RNX_INLINE auto term(Vec<T> v) {
     return unsignedRange(v);
   }
 };
 
 struct Absolutes {
-  template <class T, int C>
+  template <class Of, class T, int C>
   using Accumulator = typename SumAccumulator<T, C>::Type;
-  template <class Of, class T, class... More>
+  template <class Of, int C, class T, class... More>
   static RNX_INLINE auto term(Vec<T> v, More... more) {
     if constexpr (std::is_same_v<T, f32>) {
       return absolute(Of::value(v, more...));
@@ -354,13 +390,15 @@ struct Absolutes {
 };
 
 struct Squares {
-  template <class T, int C>
-  using Accumulator = typename SquareAccumulator<T, C>::Type;
-  template <class Of, class T, class... More>
+  template <class Of, class T, int C>
+  using Accumulator = typename SquareAccumulator<Of, T, C>::Type;
+  template <class Of, int C, class T, class... More>
   static RNX_INLINE auto term(Vec<T> v, More... more) {
     if constexpr (std::is_same_v<T, f32>) {
       const Vec<f32> value = Of::value(v, more...);
       return value * value;
+    } else if constexpr (std::is_same_v<Accumulator<Of, T, C>, SignedSquares>) {
+      return v;
     } else {
       return Of::magnitude(v, more...);
     }
@@ -372,9 +410,9 @@ using Magnitude = std::conditional_t<std::is_same_v<T, f32>, s32,
                                      std::make_unsigned_t<std::conditional_t<std::is_same_v<T, f32>, s32, T>>>;
 
 struct LargestOf {
-  template <class T, int C>
+  template <class Of, class T, int C>
   using Accumulator = Largest<C, Magnitude<T>>;
-  template <class Of, class T, class... More>
+  template <class Of, int C, class T, class... More>
   static RNX_INLINE auto term(Vec<T> v, More... more) {
     if constexpr (std::is_same_v<T, f32>) {
       return Of::value(v, more...).template as<s32>() & Vec<s32>::splat(INT32_MAX);
@@ -388,12 +426,12 @@ struct LargestOf {
 
 template <class Op, class Of, class T, int C>
 struct Reducer {
-  using Accumulator = typename Op::template Accumulator<T, C>;
+  using Accumulator = typename Op::template Accumulator<Of, T, C>;
   static constexpr int kRounds = Accumulator::kRounds;
 
   template <int K, class M, class... V>
   RNX_INLINE void add(M mask, V... v) {
-    accumulator.add(K, mask(Op::template term<Of>(v...)));
+    accumulator.add(K, mask(Op::template term<Of, C>(v...)));
   }
   RNX_INLINE void flush(int rounds) { accumulator.flush(rounds); }
 
@@ -419,47 +457,84 @@ void reduce(const ReduceCall<T>& call) {
 
 struct ExactSum {
   static void add(f64& total, f64 v) { total += v; }
+  static RNX_INLINE TwoDoubles term(TwoDoubles v) { return v; }
   static void join(f64& total, f64 part) { total += part; }
 };
 struct ExactAbsolutes : ExactSum {
   static void add(f64& total, f64 v) { total += __builtin_fabs(v); }
+  static RNX_INLINE TwoDoubles term(TwoDoubles v) { return magnitude(v); }
 };
 struct ExactSquares : ExactSum {
   static void add(f64& total, f64 v) { total += v * v; }
+  static RNX_INLINE TwoDoubles term(TwoDoubles v) { return {v.raw * v.raw}; }
 };
-struct ExactLargest {  // what is not a number stays
-  static void add(f64& most, f64 v) {
-    const f64 magnitude = __builtin_fabs(v);
-    if (magnitude > most || magnitude != magnitude) most = magnitude;
+
+// As many rows side by side as keep the adders busy; each has its own totals, of the even and of the odd pixels.
+template <class Op, class Of, int C, int kRows>
+void addRowsExactly(const ReduceCall<f32>& call, const f32* first, const f32* second, f64* totals) {
+  TwoDoubles apart[kRows][C] = {};
+  s64 i = 0;
+  for (; i + 2 * C <= call.width; i += 2 * C) {
+    RNX_UNROLL
+    for (int r = 0; r < kRows; ++r) {
+      RNX_UNROLL
+      for (int k = 0; k < C; ++k) {
+        const auto* a = core::at(first, r * call.firstStep, i + 2 * k);
+        const auto* b = core::at(second, r * call.secondStep, i + 2 * k);
+        apart[r][k].raw += Op::term(Of::exact(a, b)).raw;
+      }
+    }
   }
-  static void join(f64& most, f64 part) { add(most, part); }
-};
+  for (int r = 0; r < kRows; ++r) {
+    const f32 *a = core::at(first, r * call.firstStep), *b = core::at(second, r * call.secondStep);
+    f64 sums[2 * C];
+    __builtin_memcpy(sums, apart[r], sizeof(sums));
+    for (s64 j = i; j < call.width; ++j) Op::add(sums[j - i], Of::exact(a, b, j));
+    for (int c = 0; c < C; ++c) Op::join(totals[c], sums[c] + sums[C + c]);
+  }
+}
 
 template <class Op, class Of, int C>
 void reduceExactly(const ReduceCall<f32>& call) {
-  const f32 *first = call.first, *second = call.second;
+  constexpr int kRows = C == 1 ? 4 : 1;
   f64 totals[C] = {};
-  for (s64 y = 0; y < call.height; ++y) {
-    f64 apart[2 * C] = {};  // even pixels, odd pixels
-    s64 i = 0;
-    for (; i + 2 * C <= call.width; i += 2 * C) {
-      for (int c = 0; c < 2 * C; ++c) Op::add(apart[c], Of::exact(first, second, i + c));
+  for (s64 y = 0; y < call.height;) {
+    const f32 *first = core::at(call.first, y * call.firstStep), *second = core::at(call.second, y * call.secondStep);
+    if (call.height - y >= kRows) {
+      addRowsExactly<Op, Of, C, kRows>(call, first, second, totals);
+      y += kRows;
+    } else {
+      addRowsExactly<Op, Of, C, 1>(call, first, second, totals);
+      ++y;
     }
-    for (int c = 0; i < call.width; ++i, ++c) Op::add(apart[c], Of::exact(first, second, i));
-    for (int c = 0; c < C; ++c) {
-      Op::join(apart[c], apart[C + c]);
-      Op::join(totals[c], apart[c]);
-    }
-    first = core::at(first, call.firstStep);
-    if constexpr (std::is_same_v<Of, OfDifference>) second = core::at(second, call.secondStep);
   }
   for (int c = 0; c < C; ++c) call.results[c] = totals[c];
+}
+
+// The largest needs no order. What is not a number stays.
+template <class Of, int C>
+void largestExactly(const ReduceCall<f32>& call) {
+  const f32 *first = call.first, *second = call.second;
+  f64 most[C] = {};
+  for (s64 y = 0; y < call.height; ++y) {
+    for (s64 i = 0; i < call.width; i += C) {
+      for (int c = 0; c < C; ++c) {
+        const f64 magnitude = __builtin_fabs(Of::exact(first, second, i + c));
+        if (magnitude > most[c] || magnitude != magnitude) most[c] = magnitude;
+      }
+    }
+    first = core::at(first, call.firstStep);
+    second = core::at(second, call.secondStep);
+  }
+  for (int c = 0; c < C; ++c) call.results[c] = most[c];
 }
 
 template <class Op, class Of, class T>
 constexpr ByChannels<T> kReduce = {reduce<Op, Of, T, 1>, reduce<Op, Of, T, 3>, reduce<Op, Of, T, 4>};
 template <class Op, class Of>
 constexpr ByChannels<f32> kExact = {reduceExactly<Op, Of, 1>, reduceExactly<Op, Of, 3>, reduceExactly<Op, Of, 4>};
+template <class Of>
+constexpr ByChannels<f32> kExactLargest = {largestExactly<Of, 1>, largestExactly<Of, 3>, largestExactly<Of, 4>};
 
 template <class T>
 constexpr ReduceKernelsOf<T> kKernels = {
@@ -485,11 +560,11 @@ constinit const ReduceKernels reduceKernels = {
               {.sum = kExact<ExactSum, OfImage>,
                .absolutes = kExact<ExactAbsolutes, OfImage>,
                .squares = kExact<ExactSquares, OfImage>,
-               .largest = kExact<ExactLargest, OfImage>},
+               .largest = kExactLargest<OfImage>},
               {.sum = {},
                .absolutes = kExact<ExactAbsolutes, OfDifference>,
                .squares = kExact<ExactSquares, OfDifference>,
-               .largest = kExact<ExactLargest, OfDifference>}},
+               .largest = kExactLargest<OfDifference>}},
 };
 
 }  // namespace RNX_WIDTH

@@ -46,6 +46,48 @@ INSTANTIATE_TEST_SUITE_P(Table, Alpha,
 
 TEST(AlphaTable, HasAllExports) { EXPECT_EQ(select({.subsystem = "alpha"}).size(), 28u); }
 
+// Pixels that overlap in part: as a loop over the pixels.
+TEST_P(Alpha, Overlaps) {
+  if (driver.inPlace) return;
+  const auto run = [&](auto zero) {
+    using T = decltype(zero);
+    Random& random = driver.random;
+    const int n = signature.hasAlpha() ? 4 : 1;  // what is computed together
+    Image memory;
+    for (int round = 0; round < 120; ++round) {
+      const s64 roiWidth = random.between(1, 80), width = roiWidth * signature.channels() / n;
+      const s64 height = round % 3 == 0 ? 1024 / width + 1 : random.between(1, 3);
+      const s64 pitch = (width * n + random.between(0, 3)) * s64{sizeof(T)};
+      memory.place({pitch * (height + 4) + 200, 1, 0}, Placement::kInside, random);
+      u8* src = memory.data() + 100 + 2 * pitch;
+      u8* dst = src + random.between(-12, 12) * s64{sizeof(T)} + pitch * random.between(-1, 1);
+      const auto alpha = static_cast<T>(random.next());
+      memory.expectNow();
+      for (s64 y = 0; y < height; ++y) {
+        for (s64 x = 0; x < width; ++x) {
+          T pixel[4];
+          std::memcpy(pixel, memory.shadow(src) + y * pitch + x * n * s64{sizeof(T)},
+                      sizeof(T) * static_cast<size_t>(n));
+          for (int c = 0; c < n; ++c) {
+            const bool isAlpha = signature.hasAlpha() && c == 3;
+            const T factor = constant ? alpha : pixel[3];
+            put<T>(memory.shadow(dst) + y * pitch, x * n + c, isAlpha ? factor : product<T>(factor, pixel[c]));
+          }
+        }
+      }
+      for (int vectorBytes : vectorWidths()) {
+        const ScopedWidth scope(vectorBytes);
+        if (constant) driver.call.set("alpha", alpha);
+        driver.call.image("src", src, pitch).image("dst", dst, pitch).roi(roiWidth, height);
+        ASSERT_EQ(driver.call(), rnxStatusNoError);
+        ASSERT_TRUE(memory.matches()) << width << " x " << height << ", " << dst - src << ", pitch " << pitch;
+        memory.rewind();
+      }
+    }
+  };
+  signature.source() == Element::k8u ? run(u8{}) : run(u16{});
+}
+
 template <class T, class Planes>
 void checkPlanes(Planes planes, RnxStatus (*constant)(const T* const*, int, T, T* const*, int, RnxiSize)) {
   Random random("planes");
@@ -70,6 +112,48 @@ void checkPlanes(Planes planes, RnxStatus (*constant)(const T* const*, int, T, T
   }
   to[2] = nullptr;
   EXPECT_EQ(planes(from, kStep, to, kStep, RnxiSize{0, 0}), rnxStatusNullPointer);
+}
+
+// In place, and with planes that are one another's: one plane after the other.
+template <class T>
+void checkPlanesInPlace(RnxStatus (*own)(T* const*, int, RnxiSize),
+                        RnxStatus (*byConstant)(T, T* const*, int, RnxiSize),
+                        RnxStatus (*apart)(const T* const*, int, T* const*, int, RnxiSize)) {
+  constexpr int kWidth = 91, kHeight = 30, kStep = (kWidth + 2) * static_cast<int>(sizeof(T));
+  constexpr RnxiSize kRoi = {kWidth, kHeight};
+  for (int which = 0; which < 3; ++which) {
+    Random random("planes in place");
+    std::vector<T> planes[4], expected[4];
+    T* at[4];
+    for (size_t p = 0; p < 4; ++p) {
+      planes[p].resize((kWidth + 2) * kHeight);
+      fillBytes(random, planes[p].data(), kStep * kHeight);
+      expected[p] = planes[p];
+      at[p] = planes[p].data();
+    }
+    const T* sources[4] = {at[3], at[0], at[1], at[2]};  // the first result overwrites the second source
+    size_t source[4] = {0, 1, 2, 3};
+    if (which == 2) std::rotate(source, source + 3, source + 4);
+    for (size_t p = 0; p < 4; ++p) {
+      for (size_t y = 0; y < kHeight; ++y) {
+        for (size_t x = 0; x < kWidth; ++x) {
+          const size_t i = y * (kWidth + 2) + x;
+          const T alpha = which == 1 ? T(200) : expected[source[3]][i];
+          expected[p][i] = p == 3 ? alpha : product<T>(alpha, expected[source[p]][i]);
+        }
+      }
+    }
+    const RnxStatus status = which == 0   ? own(at, kStep, kRoi)
+                             : which == 1 ? byConstant(T(200), at, kStep, kRoi)
+                                          : apart(sources, kStep, at, kStep, kRoi);
+    ASSERT_EQ(status, rnxStatusNoError);
+    for (size_t p = 0; p < 4; ++p) ASSERT_EQ(planes[p], expected[p]) << "plane " << p << ", " << which;
+  }
+}
+
+TEST(AlphaPlanes, InPlace) {
+  checkPlanesInPlace<u8>(rnxiAlphaPremul_8u_AP4IR, rnxiAlphaPremulC_8u_AP4IR, rnxiAlphaPremul_8u_AP4R);
+  checkPlanesInPlace<u16>(rnxiAlphaPremul_16u_AP4IR, rnxiAlphaPremulC_16u_AP4IR, rnxiAlphaPremul_16u_AP4R);
 }
 
 TEST(AlphaPlanes, EqualTheRule) {
@@ -108,6 +192,7 @@ TEST(AlphaPairs, All16u) {
   constexpr u32 kStep = 1;
 #endif
   for (u32 a = 0; a < 65536; a += kStep) {
+    const ScopedWidth scope(a % 64 == 0 ? 16 : 32);
     rnxiAlphaPremulC_16u_C1R(all.data(), 131072, static_cast<u16>(a), result.data(), 131072, {65536, 1});
     u32 wrong = 0;
     for (u32 v = 0; v < 65536; ++v) {  // 2 * a * v fits 64 bits; division by a constant

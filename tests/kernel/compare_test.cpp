@@ -70,6 +70,59 @@ TEST_P(Compare, EqualsTheRule) {
   });
 }
 
+// All three images in one piece of memory: the result is that of a loop over the pixels.
+TEST_P(Compare, Overlaps) {
+  withType(signature.source(), [&](auto zero) {
+    using T = decltype(zero);
+    if constexpr (requires { zero < zero; }) {
+      const s64 pixel = signature.channels() * s64{sizeof(T)}, used = signature.hasAlpha() ? 3 : signature.channels();
+      for (int round = 0; round < 120; ++round) {
+        const s64 width = random.between(1, 90), height = round % 3 == 0 ? 2048 / width + 1 : random.between(1, 3);
+        const s64 pitch = width * pixel + random.between(0, 5);
+        dst.place({pitch * (height + 4) + 400, 1, 0}, Placement::kInside, random,
+                  static_cast<int>(random.between(0, 63)));
+        fill(random, Data::kExtreme, signature.source(), dst.data(), dst.shape().rowBytes / s64{sizeof(T)});
+        u8* const middle = dst.data() + 200 + 2 * pitch;
+        const auto somewhere = [&] { return middle + random.between(-40, 40) + pitch * random.between(-1, 1); };
+        u8 *first = somewhere(), *second = somewhere(), *to = random.oneIn(4) ? first : somewhere();
+        const s64 toStep = random.oneIn(2) ? pitch : width;
+        const int cmpOp = static_cast<int>(random.between(0, 4));
+        dst.expectNow();
+        for (s64 y = 0; y < height; ++y) {
+          for (s64 x = 0; x < width; ++x) {
+            bool all = true;
+            for (s64 c = 0; c < used; ++c) {
+              const auto at = [&](u8* image) { return get<T>(dst.shadow(image) + y * pitch + x * pixel, c); };
+              all = all && holds(at(first), at(second), cmpOp);
+            }
+            dst.shadow(to)[y * toStep + x] = all ? 255 : 0;
+          }
+        }
+        for (int vectorBytes : vectorWidths()) {
+          const ScopedWidth scope(vectorBytes);
+          Call call(signature);
+          call.image("src1", first, pitch).image("src2", second, pitch).image("maskdst", to, toStep);
+          ASSERT_EQ(call.roi(width, height).set("cmpOp", cmpOp)(), rnxStatusNoError);
+          ASSERT_TRUE(dst.matches()) << width << " x " << height << " op " << cmpOp << ", sources at " << first - to
+                                     << " and " << second - to << ", steps " << pitch << " and " << toStep;
+          dst.rewind();
+        }
+      }
+    }
+  });
+}
+
+TEST_P(Compare, LargerThanTheCaches) {
+  const ScopedCache cache(kTinyCache);
+  withType(signature.source(), [&](auto zero) {
+    using T = decltype(zero);
+    if constexpr (requires { zero < zero; }) {
+      const s64 width = random.between(300, 500), bytes = 2 * signature.channels() * s64{sizeof(T)} + 1;
+      check<T>(width, 0x80000 / (width * bytes) + 2, Data::kBits, static_cast<int>(random.between(0, 4)));
+    }
+  });
+}
+
 INSTANTIATE_TEST_SUITE_P(Table, Compare, testing::ValuesIn(select({.family = "Compare"})), byName);
 
 TEST(CompareStatus, Order) {

@@ -20,15 +20,28 @@ protected:
   ValuesDriver driver{signature};
   const bool isScaled = signature.form.find("Sfs") != std::string_view::npos, isRounded = signature.has("anyround");
 
-  bool checkWith(int roundMode, int scale) {
+  // The value of an element, for the call as it is from now on.
+  auto setModel(int roundMode, int scale) {
     if (isRounded) driver.call.set("roundMode", roundMode);
     if (isScaled) driver.call.set("scaleFactor", scale);
     const Element from = signature.source(), to = signature.destination();
-    return driver.check(byElement(signature, [=, this](int, long double v) {
+    return [=, this](int, long double v) {
       if (ref::isFloat(to)) return v;
       if (isScaled) return ref::scaled(v, from, to, roundMode, scale);
       return ref::toInteger(v, to, roundMode);
-    }));
+    };
+  }
+  bool checkWith(int roundMode, int scale) { return driver.check(byElement(signature, setModel(roundMode, scale))); }
+  int anyMode() { return driver.random.pick(std::vector{0, 1, 2, 7, -1}); }
+
+  // Lays `all` out in whole pixels.
+  template <class S>
+  void placeValues(const std::vector<S>& all) {
+    const s64 rows = signature.channels() == 3 ? 4 : 3, perRow = static_cast<s64>(all.size()) / rows;
+    driver.place(perRow / signature.channels(), rows, Data::kBits);
+    for (s64 y = 0; y < rows; ++y) {
+      std::memcpy(driver.sourceRow(y), all.data() + y * perRow, static_cast<size_t>(perRow) * sizeof(S));
+    }
   }
 
   // The values of interest of S, as one image.
@@ -72,8 +85,7 @@ TEST_P(Convert, SizesAndData) {
   for (Data data : {Data::kModerate, Data::kExtreme, Data::kTies}) {
     driver.sizes([&](s64 w, s64 h) {
       driver.place(w, h, data);
-      const int mode = static_cast<int>(driver.random.between(0, 3));
-      return checkWith(mode == 3 ? 7 : mode, driver.random.pick(kScales));
+      return checkWith(anyMode(), driver.random.pick(kScales));
     });
   }
 }
@@ -83,17 +95,10 @@ TEST_P(Convert, AllValues) {
     using S = decltype(zero);
     if constexpr (std::is_arithmetic_v<S>) {
       const std::vector<S> all = values<S>();  // a multiple of 48: rows of whole pixels
-      const s64 rows = signature.channels() == 3 ? 4 : 3, perRow = static_cast<s64>(all.size()) / rows;
       for (int mode : {0, 1, 2}) {
         if (!isRounded && mode > 0) break;
         for (int scale : isScaled ? kScales : std::vector<int>{0}) {
-          driver.place(perRow / signature.channels(), rows, Data::kBits);
-          for (s64 y = 0; y < rows; ++y) {
-            std::memcpy(driver.sourceRow(y), all.data() + y * perRow, static_cast<size_t>(perRow) * sizeof(S));
-          }
-          // The caller's control state is of no influence, and stays.
-          driver.controlState = 0x1f80 | static_cast<unsigned>(driver.random.between(0, 3)) << 13 |
-                                (driver.random.oneIn(2) ? 0x8040u : 0u);
+          placeValues(all);
           if (!checkWith(mode, scale)) {
             ADD_FAILURE() << "mode " << mode << " scale " << scale;
             return;
@@ -101,6 +106,46 @@ TEST_P(Convert, AllValues) {
         }
       }
     }
+  });
+}
+
+// The caller's control state is of no influence, and stays: every direction, with and without flushed denormals, and
+// with exceptions that would trap.
+TEST_P(Convert, UnderEveryControlState) {
+  if (!ref::isFloat(signature.source()) && !ref::isFloat(signature.destination())) return;
+  withType(signature.source(), [&](auto zero) {
+    using S = decltype(zero);
+    if constexpr (std::is_arithmetic_v<S>) {
+      const std::vector<S> all = values<S>();
+      for (unsigned direction = 0; direction < 4; ++direction) {
+        for (unsigned others : {0x1f80u, 0x9fc0u, 0x0000u}) {
+          driver.controlState = direction << 13 | others;
+          for (int mode : {0, 1, 2}) {
+            if (!isRounded && mode > 0) break;
+            for (int scale : isScaled ? std::vector{0, 3, -5, 126, -127} : std::vector{0}) {
+              placeValues(all);
+              ASSERT_TRUE(checkWith(mode, scale))
+                  << "mode " << mode << " scale " << scale << " direction " << direction;
+            }
+          }
+        }
+      }
+    }
+  });
+}
+
+TEST_P(Convert, Overlaps) {
+  if (driver.inPlace) return;
+  driver.overlaps([&](s64 w, s64 h) {
+    return driver.checkOverlap(w, h, Data::kModerate,
+                               setModel(anyMode(), static_cast<int>(driver.random.between(-3, 5))));
+  });
+}
+
+TEST_P(Convert, LargerThanTheCaches) {
+  driver.large([&](s64 w, s64 h) {
+    driver.place(w, h, Data::kModerate);
+    EXPECT_TRUE(checkWith(anyMode(), 2));
   });
 }
 

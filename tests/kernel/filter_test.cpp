@@ -109,7 +109,7 @@ struct Caller {
   void model(const Job& job, const ref::SourceModel<T>& source, int dataType) {
     const s64 channels = source.channels;
     const bool integer = job.kernelType == rnx16s && staysInteger(dataType, static_cast<int>(channels), job.kw, job.kh);
-    const auto k16 = modelKernel<s16>(job);
+    const auto k16 = integer ? modelKernel<s16>(job) : ref::KernelModel<s16>{};
     const auto k64 = modelKernel<f64>(job);
     auto k32 = modelKernel<f32>(job);
     if (job.kernelType == rnx16s) {

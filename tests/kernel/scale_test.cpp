@@ -32,12 +32,12 @@ protected:
     return std::rint(f64{static_cast<f32>(u) * static_cast<f32>(255 / range)});
   }
 
-  bool check() {
+  auto setModel() {
     if (signature.has("range")) driver.call.set("vMin", vMin).set("vMax", vMax);
     if (signature.has("hint")) driver.call.set("hint", hint);
-    return driver.check(
-        byElement(signature, [this](int, long double x) -> long double { return expected(static_cast<f64>(x)); }));
+    return [this](int, long double x) -> long double { return expected(static_cast<f64>(x)); };
   }
+  bool check() { return driver.check(byElement(signature, setModel())); }
 };
 
 TEST_P(Scale, EqualsTheFormula) {
@@ -64,39 +64,142 @@ TEST_P(Scale, AllValuesOf16Bits) {
   }
 }
 
+// Ranges that lose bits, that overflow, that are below the normal numbers: on the ends and beside them, and on the
+// ties between the results.
+TEST_P(Scale, AnyRange) {
+  if (!signature.has("range")) return;
+  const std::pair<f32, f32> ranges[] = {
+      {0, 1},           {-1, 1},        {0, 255},         {0, 510},     {-100, 155},         {1e7f, 1e7f + 1},
+      {-3e38f, 3e38f},  {0, 3e38f},     {1e-30f, 2e-30f}, {0, 1e-40f},  {-1e-40f, 1e-40f},   {-1e-40f, 0},
+      {1e-40f, 2e-40f}, {-INFINITY, 0}, {0, INFINITY},    {-1e-45f, 1}, {16777216, 16777218}};
+  for (const auto& [low, high] : ranges) {
+    vMin = low, vMax = high;
+    std::vector<f32> values = {0, -0.0f, NAN, -NAN, INFINITY, -INFINITY, 1e-45f, -1e-45f, 3.4e38f, -3.4e38f};
+    for (int k = -1; k <= 511; ++k) values.push_back(low + static_cast<f32>(k) / 510 * (high - low));
+    for (f32 v : {low, high}) {
+      for (f32 towards : {-INFINITY, INFINITY}) values.push_back(std::nextafter(v, towards));
+    }
+    for (unsigned state : {0x1f80u, 0xffc0u, 0x0000u}) {
+      driver.controlState = state;
+      const s64 n = 144;
+      driver.place(n / signature.channels() * 4, 1, Data::kBits);
+      if (signature.source() == Element::k32f) {
+        for (s64 i = 0; i < n / signature.channels() * signature.channels() * 4; ++i) {
+          put<f32>(driver.sourceRow(0), i, values[static_cast<size_t>(i) % values.size()]);
+        }
+      }
+      ASSERT_TRUE(check()) << low << " to " << high;
+    }
+  }
+}
+
+TEST_P(Scale, Overlaps) {
+  driver.overlaps([&](s64 w, s64 h) {
+    hint = static_cast<int>(driver.random.between(0, 3));
+    return driver.checkOverlap(w, h, Data::kModerate, setModel());
+  });
+}
+
+TEST_P(Scale, LargerThanTheCaches) {
+  driver.large([&](s64 w, s64 h) {
+    driver.place(w, h, Data::kModerate);
+    EXPECT_TRUE(check());
+  });
+}
+
 INSTANTIATE_TEST_SUITE_P(Table, Scale, testing::ValuesIn(select({.family = "Scale"})), byName);
 
 class ScaleC : public testing::TestWithParam<const Signature*> {
 protected:
   const Signature& signature = *GetParam();
   ValuesDriver driver{signature};
+
+  auto setModel(f64 m, f64 a, int hint);
 };
 
 bool fitsSingle(Element e) { return bytesOf(e) <= 2 || e == Element::k32f; }
 
-TEST_P(ScaleC, EqualsTheFormula) {
-  struct Case {
-    f64 m, a;
-  };
-  const Case cases[] = {{1.5, -3},   {-0.37, 100.25}, {1, 0.5}, {257, -32768},
-                        {1e9, 1e10}, {0, -1e300},     {NAN, 0}, {1 + 0x1p-52, 0}};
+auto ScaleC::setModel(f64 m, f64 a, int hint) {
   const Element from = signature.source(), to = signature.destination();
+  const bool single = hint != 2 && fitsSingle(from) && fitsSingle(to);
+  driver.call.set("mVal", m).set("aVal", a).set("hint", hint);
+  return [=](int, long double x) -> long double {
+    const f64 v =
+        single ? static_cast<f32>(x) * static_cast<f32>(m) + static_cast<f32>(a) : static_cast<f64>(x) * m + a;
+    return ref::isFloat(to) ? v : ref::toInteger(v, to, 1);
+  };
+}
+
+struct Constants {
+  f64 m, a;
+};
+// The last ones are beside the largest int, for sources of 8 and of 16 bits: 255 * 8421504 = 2^31 - 128.
+constexpr Constants kConstants[] = {{1.5, -3},
+                                    {-0.37, 100.25},
+                                    {1, 0.5},
+                                    {257, -32768},
+                                    {1e9, 1e10},
+                                    {0, -1e300},
+                                    {NAN, 0},
+                                    {1 + 0x1p-52, 0},
+                                    {0, INFINITY},
+                                    {8421504, 0},
+                                    {-8421504, -8421504},
+                                    {8421505, 300},
+                                    {32768, 0},
+                                    {-32768, 0},
+                                    {32768.5, 0},
+                                    {65536, 1},
+                                    {0, 2147483647.0},
+                                    {1, -2147483648.0},
+                                    {1e-3, 2147483520.0},
+                                    {1, 2147482700.0}};
+
+TEST_P(ScaleC, EqualsTheFormula) {
   for (Data data : {Data::kModerate, Data::kExtreme, Data::kTies}) {
     driver.sizes([&](s64 w, s64 h) {
       driver.place(w, h, data);
-      const Case c = driver.random.pick(cases);
-      const int hint = static_cast<int>(driver.random.between(0, 3));
-      const bool single = hint != 2 && fitsSingle(from) && fitsSingle(to);
+      const Constants c = driver.random.pick(kConstants);
       driver.controlState =
           0x1f80 | static_cast<unsigned>(driver.random.between(0, 3)) << 13 | (driver.random.oneIn(2) ? 0x8040u : 0u);
-      driver.call.set("mVal", c.m).set("aVal", c.a).set("hint", hint);
-      return driver.check(byElement(signature, [=](int, long double x) -> long double {
-        const f64 v = single ? static_cast<f32>(x) * static_cast<f32>(c.m) + static_cast<f32>(c.a)
-                             : static_cast<f64>(x) * c.m + c.a;
-        return ref::isFloat(to) ? v : ref::toInteger(v, to, 1);
-      }));
+      return driver.check(byElement(signature, setModel(c.m, c.a, static_cast<int>(driver.random.between(0, 3)))));
     });
   }
+}
+
+// Every value of a byte, and 16-bit ones from end to end, with all constants.
+TEST_P(ScaleC, AllConstants) {
+  const int bytes = bytesOf(signature.source());
+  if (bytes > 2) return;
+  for (const Constants& c : kConstants) {
+    for (int hint : {1, 2}) {
+      driver.place(1024, 3, Data::kBits);
+      for (s64 y = 0; y < 3; ++y) {
+        for (s64 i = 0; i < 1024; ++i) {
+          const s64 v = y < 2 ? 32768 * y + i - 512 : 64 * i;
+          bytes == 1 ? put<u8>(driver.sourceRow(y), i, static_cast<u8>(v))
+                     : put<u16>(driver.sourceRow(y), i, static_cast<u16>(v));
+        }
+      }
+      ASSERT_TRUE(driver.check(byElement(signature, setModel(c.m, c.a, hint))))
+          << c.m << " " << c.a << " hint " << hint;
+    }
+  }
+}
+
+TEST_P(ScaleC, Overlaps) {
+  // Parts of floats read as floats may be anything, a NaN of which only the model would make another one too.
+  if (driver.inPlace || ref::isFloat(signature.source())) return;
+  driver.overlaps([&](s64 w, s64 h) {
+    return driver.checkOverlap(w, h, Data::kModerate, setModel(1.5, -3, driver.random.pick(std::vector{1, 2})));
+  });
+}
+
+TEST_P(ScaleC, LargerThanTheCaches) {
+  driver.large([&](s64 w, s64 h) {
+    driver.place(w, h, Data::kModerate);
+    EXPECT_TRUE(driver.check(byElement(signature, setModel(1.5, -3, 1))));
+  });
 }
 
 // Bits are copied, and nothing but what a copy checks is checked.
@@ -106,6 +209,7 @@ TEST_P(ScaleC, IdentityCopiesBits) {
     driver.place(37, 3, Data::kExtreme);
     driver.call.set("mVal", m).set("aVal", a);
     const auto bytes = static_cast<size_t>(37 * bytesOf(signature.source()));
+    driver.bitByBit = true;
     ASSERT_TRUE(driver.check([=](const u8* from, u8* to, s64) { std::memcpy(to, from, bytes); }));
   }
 }
@@ -126,6 +230,11 @@ TEST(ScaleStatus, Order) {
   EXPECT_EQ(rnxiScaleC_8u_C1IR(a, 0, 1.0, 0.0, {4, 1}, 0), rnxStatusNoError);
   EXPECT_EQ(rnxiScaleC_8u_C1IR(a, 0, 2.0, 0.0, {4, 1}, 0), rnxStatusBadStep);
   EXPECT_EQ(rnxiScaleC_8u_C1IR(nullptr, 0, 1.0, 0.0, {4, 1}, 0), rnxStatusNullPointer);
+  EXPECT_EQ(rnxiScaleC_8u_C1IR(a, 0, 1.0, 0.0, {4, 0}, 0), rnxStatusBadSize);
+  // Only what is nearer than 2^-52 to 1 and to 0 is the identity.
+  for (const auto& [m, s] : {std::pair{1 + 0x1p-52, 0.0}, {1 - 0x1p-52, 0.0}, {1.0, 0x1p-52}, {1.0, -0x1p-52}}) {
+    EXPECT_EQ(rnxiScaleC_8u_C1IR(a, 0, m, s, {4, 1}, 0), rnxStatusBadStep) << m << " " << s;
+  }
 }
 
 }  // namespace

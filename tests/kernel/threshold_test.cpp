@@ -24,36 +24,50 @@ protected:
     }
   }
 
+  // One threshold and value per channel, or two.
   template <class T>
-  bool checkOnce(s64 width, s64 height, Data data) {
+  struct Values {
     T low[4], lowValue[4], high[4], highValue[4];
+  };
+  alignas(16) u8 values[sizeof(Values<f64>)];  // of the call
+
+  // Sets thresholds and values; what an element of a channel becomes by them.
+  template <class T>
+  auto setModel(Data data, T occurring) {
+    Values<T> v;
+    const bool both = has("LTValGTVal"), replaces = has("Val");
     for (int c = 0; c < 4; ++c) {
-      low[c] = value<T>(driver.random, data), high[c] = value<T>(driver.random, data);
-      if (has("LTValGTVal") && high[c] < low[c]) std::swap(low[c], high[c]);
-      lowValue[c] = value<T>(driver.random, data), highValue[c] = value<T>(driver.random, data);
+      v.low[c] = value<T>(driver.random, data), v.high[c] = value<T>(driver.random, data);
+      if (both && v.high[c] < v.low[c]) std::swap(v.low[c], v.high[c]);
+      v.lowValue[c] = value<T>(driver.random, data), v.highValue[c] = value<T>(driver.random, data);
     }
-    driver.place(width, height, data);
-    // Thresholds that occur.
-    if (!has("LTValGTVal")) low[0] = get<T>(driver.sourceRow(0));
+    if (!both) v.low[0] = occurring;
+    const auto& kept = *new (values) Values<T>(v);
     bool below = has("LT"), above = has("GT");
-    const bool both = has("LTValGTVal");
     if (both) {
-      setValues("thresholdLT", low), setValues("valueLT", lowValue);
-      setValues("thresholdGT", high), setValues("valueGT", highValue);
+      setValues("thresholdLT", kept.low), setValues("valueLT", kept.lowValue);
+      setValues("thresholdGT", kept.high), setValues("valueGT", kept.highValue);
     } else {
-      setValues("threshold", low);
-      if (has("Val")) setValues("value", lowValue);
+      setValues("threshold", kept.low);
+      if (replaces) setValues("value", kept.lowValue);
       if (!below && !above) {
         below = driver.random.oneIn(2), above = !below;
         driver.call.set("cmpOp", below ? 0 : 4);
       }
     }
-    return driver.check(byElement(signature, [=, this](int c, long double element) -> long double {
+    return [=](int c, long double element) -> long double {
       const T s = static_cast<T>(element);
-      if (both) return s < low[c] ? lowValue[c] : s > high[c] ? highValue[c] : s;
-      const T replacement = has("Val") ? lowValue[c] : low[c];
-      return (below ? s < low[c] : s > low[c]) ? replacement : s;
-    }));
+      if (both) return s < v.low[c] ? v.lowValue[c] : s > v.high[c] ? v.highValue[c] : s;
+      return (below ? s < v.low[c] : s > v.low[c]) ? (replaces ? v.lowValue[c] : v.low[c]) : s;
+    };
+  }
+
+  template <class T>
+  bool checkOnce(s64 width, s64 height, Data data) {
+    driver.place(width, height, data);
+    driver.controlState =
+        0x1f80 | static_cast<unsigned>(driver.random.between(0, 3)) << 13 | (driver.random.oneIn(2) ? 0x8040u : 0u);
+    return driver.check(byElement(signature, setModel<T>(data, get<T>(driver.sourceRow(0)))));
   }
 };
 
@@ -66,6 +80,53 @@ TEST_P(Threshold, EqualsTheRule) {
       }
     }
   });
+}
+
+TEST_P(Threshold, Overlaps) {
+  if (driver.inPlace) return;
+  withType(signature.source(), [&](auto zero) {
+    using T = decltype(zero);
+    if constexpr (requires { zero < zero; }) {
+      driver.overlaps(
+          [&](s64 w, s64 h) { return driver.checkOverlap(w, h, Data::kTies, setModel<T>(Data::kTies, T(16))); });
+    }
+  });
+}
+
+// The bits of what is kept: NaNs of every kind, and zeros of the sign that the threshold does not have.
+TEST(ThresholdFloats, KeepTheirBits) {
+  const u32 kept[] = {0x7fc00000, 0xffc12345, 0x7f800001, 0xff923456, 0x80000000, 0x00000000};
+  std::vector<f32> src(960), dst(960);  // enough for the wide kernels
+  for (size_t i = 0; i < src.size(); ++i) std::memcpy(&src[i], &kept[i % 6], 4);
+  for (int vectorBytes : vectorWidths()) {
+    const ScopedWidth scope(vectorBytes);
+    for (f32 zero : {0.0f, -0.0f, std::nanf("")}) {
+      for (int form = 0; form < 6; ++form) {
+        const f32* s = src.data();
+        f32* d = dst.data();
+        std::fill(dst.begin(), dst.end(), 5.0f);
+        const RnxStatus status = form == 0   ? rnxiThreshold_LT_32f_C1R(s, 3840, d, 3840, {960, 1}, zero)
+                                 : form == 1 ? rnxiThreshold_GT_32f_C1R(s, 3840, d, 3840, {960, 1}, zero)
+                                 : form == 2 ? rnxiThreshold_LTVal_32f_C1R(s, 3840, d, 3840, {960, 1}, zero, 7)
+                                 : form == 3 ? rnxiThreshold_GTVal_32f_C1R(s, 3840, d, 3840, {960, 1}, zero, 7)
+                                 : form == 4
+                                     ? rnxiThreshold_LTValGTVal_32f_C1R(s, 3840, d, 3840, {960, 1}, zero, 7, zero, 8)
+                                     : rnxiThreshold_32f_C1R(s, 3840, d, 3840, {960, 1}, zero, 4);
+        EXPECT_EQ(status, rnxStatusNoError);
+        EXPECT_EQ(std::memcmp(s, d, 3840), 0) << "form " << form << ", threshold " << zero;
+      }
+    }
+  }
+}
+
+// An element that was replaced is not compared again, and every channel has its own pair.
+TEST(ThresholdOutside, ReplacesOnce) {
+  const u8 src[9] = {10, 10, 10, 60, 60, 60, 200, 200, 200}, low[3] = {50, 5, 60}, high[3] = {100, 60, 60};
+  const u8 lowValue[3] = {250, 251, 252}, highValue[3] = {1, 2, 3};
+  const u8 expected[9] = {250, 10, 252, 60, 60, 60, 1, 2, 3};
+  u8 dst[9] = {};
+  EXPECT_EQ(rnxiThreshold_LTValGTVal_8u_C3R(src, 9, dst, 9, {3, 1}, low, lowValue, high, highValue), rnxStatusNoError);
+  EXPECT_EQ(std::memcmp(dst, expected, 9), 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, Threshold, testing::ValuesIn(select({.family = kFamilies})), byName);

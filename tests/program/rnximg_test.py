@@ -176,6 +176,28 @@ OPERATIONS = [
     ("difference other.png", lambda v, w, c: abs(v - w)),
     ("multiply other.png", lambda v, w, c: saturated(Fraction(v * w, 256))),
     ("divide other.png", lambda v, w, c: quotient(v, w)),
+    ("convert 1", lambda v, w, c: saturated(Fraction(v, 2))),
+    ("convert 1 away", lambda v, w, c: (v + 1) // 2),
+    ("convert 2 zero", lambda v, w, c: v // 4),
+    ("convert -3", lambda v, w, c: min(8 * v, 255)),
+    ("stretch 50 101", lambda v, w, c: saturated(5 * v - 250)),
+    ("stretch 20.5 148", lambda v, w, c: saturated(2 * v - 41)),
+    ("squeeze 10 137.5", lambda v, w, c: 10 + round(v * half)),
+    ("squeeze 10 137.5 away", lambda v, w, c: 10 + (v + 1) // 2),
+    ("squeeze 137.5 265 zero", lambda v, w, c: min(int(137 + half + v * half), 255)),
+    ("scalec 1.5 -3", lambda v, w, c: saturated(3 * half * v - 3)),
+    ("scalec -1 255 accurate", lambda v, w, c: 255 - v),
+    ("threshold raise 100", lambda v, w, c: max(v, 100)),
+    ("threshold raise 100,90,255", lambda v, w, c: max(v, (100, 90, 255)[c])),
+    ("threshold lower 100", lambda v, w, c: min(v, 100)),
+    ("threshold clamp less 7,8,9", lambda v, w, c: max(v, 7 + c)),
+    ("threshold clamp greater 70", lambda v, w, c: min(v, 70)),
+    ("threshold below 100 3", lambda v, w, c: 3 if v < 100 else v),
+    ("threshold above 100 3,2,1", lambda v, w, c: 3 - c if v > 100 else v),
+    ("threshold replace less 100 200", lambda v, w, c: 200 if v < 100 else v),
+    ("threshold replace greater 9,99,200 0", lambda v, w, c: 0 if v > (9, 99, 200)[c] else v),
+    ("threshold outside 50 200 150 10", lambda v, w, c: 200 if v < 50 else 10 if v > 150 else v),
+    ("threshold outside 50 1,2,3 50 9", lambda v, w, c: 1 + c if v < 50 else 9 if v > 50 else v),
     ("addc 10 -- mulc 2 -- brightness -7", lambda v, w, c: max(min(2 * min(v + 10, 255), 255) - 7, 0)),
 ]
 
@@ -187,7 +209,7 @@ class Operations(ProgramTest):
             self.write("in.png", image)
             self.write("other.png", other)
             for words, model in OPERATIONS:
-                if channels == 1 and re.search(r"c \S+ \S+ \S+$", words):
+                if channels == 1 and re.search(r"(?:add|sub|mul|div)c \S+ \S+ \S+$|\d,", words):
                     continue  # one constant per colour
                 with self.subTest(words, channels=channels):
                     result = self.run_program("in.png", "-o", "out.png", *words.split())
@@ -259,6 +281,98 @@ def bordered(rows, width, position):
     """position(p, n): the row or column that comes to p, from -width on."""
     places = lambda n: [position(p, n) for p in range(-width, n + width)]
     return [[rows[y][x] for x in places(len(rows[0]))] for y in places(len(rows))]
+
+
+class Values(ProgramTest):
+    def report(self, *words):
+        """The printed table, by channel."""
+        result = self.run_program(*words)
+        self.assertEqual((result.returncode, result.stderr), (0, ""), words)
+        lines = [re.split(r"\s{2,}", line) for line in result.stdout.splitlines()]
+        return {name: list(map(float, figures)) for name, *figures in lines[1:]}
+
+    def test_gray(self):
+        for channels in (1, 3, 4):
+            rows = ramp(channels)
+            self.write("in.png", rows)
+            for rounding, rule in {"zero": int, "even": round, "away": lambda v: int(v + half)}.items():
+                self.process("in.png", "-o", "out.png", "gray", rounding)
+                shares = (Fraction(299, 1000), Fraction(587, 1000), Fraction(114, 1000))
+                exact = lambda p: sum(s * v for s, v in zip(shares, p)) if channels > 1 else p[0]
+                for got, wanted in zip(self.read("out.png"), rows, strict=True):
+                    for (level,), pixel in zip(got, wanted, strict=True):
+                        # A sum in single precision may fall to either side of a tie.
+                        near = {rule(exact(pixel) + d) for d in (-Fraction(1, 9999), 0, Fraction(1, 9999))}
+                        self.assertIn(level, near if channels > 1 else {pixel[0]})
+
+    def test_compare_in_all_colors(self):
+        relations = {"less": "__lt__", "lesseq": "__le__", "equal": "__eq__", "greatereq": "__ge__", "greater": "__gt__"}
+        for channels in (1, 3, 4):
+            rows, other = ramp(channels), ramp(channels, seed=1)
+            other[3:6] = rows[3:6]
+            self.write("in.png", rows)
+            self.write("other.png", other)
+            for relation, method in relations.items():
+                with self.subTest(relation, channels=channels):
+                    self.process("in.png", "-o", "out.png", "compare", relation, "other.png")
+                    mask = [
+                        [(255 * all(getattr(v, method)(w) for v, w in zip(p[:3], q[:3])),) for p, q in zip(*both)]
+                        for both in zip(rows, other)
+                    ]
+                    self.assertEqual(self.read("out.png"), mask)
+
+    def test_figures(self):
+        for channels in (1, 3, 4):
+            rows, other = ramp(channels, 9, 7), ramp(channels, 9, 7, seed=1)
+            self.write("in.png", rows)
+            self.write("other.png", other)
+            stats, diff = self.report("in.png", "stats"), self.report("in.png", "diff", "other.png")
+            names = ["gray"] if channels == 1 else ["red", "green", "blue", "alpha"][:channels]
+            self.assertEqual((list(stats), list(diff)), (names, names))
+            for c, name in enumerate(names):
+                values, others = ([p[c] for row in image for p in row] for image in (rows, other))
+                norms = lambda v: [max(map(abs, v)), sum(map(abs, v)), sum(x * x for x in v) ** 0.5]
+                of, reference = norms([a - b for a, b in zip(values, others)]), norms(others)
+                wanted = [sum(values), sum(values) / 63, *norms(values)]
+                for got, expected in [(stats[name], wanted), (diff[name], of + [a / b for a, b in zip(of, reference)])]:
+                    self.assertEqual(len(got), len(expected))
+                    for a, b in zip(got, expected):
+                        self.assertAlmostEqual(a / b, 1, 8)
+
+    def test_figures_relative_to_nothing(self):
+        self.write("in.png", [[(0, 5, 0)]])
+        self.write("zero.png", [[(0, 0, 0)]])
+        diff = self.report("in.png", "diff", "zero.png")
+        self.assertEqual(diff["green"][3:], [float("inf")] * 3)
+        self.assertTrue(all(v != v for v in diff["red"][3:]))
+
+    def test_reports_need_no_output(self):
+        self.write("in.png", ramp(3))
+        self.process("in.png", "-o", "out.png", "addc", "1")
+        result = self.run_program("in.png", "-o", "out.png", "addc", "1", "--", "stats")
+        self.assertEqual((result.returncode, result.stdout[:7]), (0, "channel"))
+        result = self.run_program("in.png", "stats", "--", "addc", "1")
+        self.assertEqual((result.returncode, result.stdout), (2, ""))
+
+    def test_alpha(self):
+        product = lambda a, v: (2 * a * v + 255) // 510
+        opacity = ramp(1, seed=3)
+        self.write("opacity.png", opacity)
+        for channels in (1, 3, 4):
+            rows = ramp(channels)
+            self.write("in.png", rows)
+            joined = [
+                [(*(p[:3] if channels > 1 else p * 3), a) for p, (a,) in zip(*both)] for both in zip(rows, opacity)
+            ]
+            self.process("in.png", "-o", "out.png", "alpha", "opacity.png")
+            self.assertEqual(self.read("out.png"), joined)
+            self.process("out.png", "-o", "own.png", "premultiply")
+            self.assertEqual(
+                self.read("own.png"), convert(joined, lambda p: (*(product(p[3], v) for v in p[:3]), p[3]))
+            )
+            self.process("in.png", "-o", "half.png", "premultiply", "128")
+            by = lambda p: (*(product(128, v) for v in p[:3]), *(128 for _ in p[3:]))
+            self.assertEqual(self.read("half.png"), convert(rows, by))
 
 
 class Geometry(ProgramTest):
@@ -432,6 +546,17 @@ class Failures(ProgramTest):
             ("in.png -o out.png filter 1 divisor 0", "DIVISOR must not be 0"),
             ("in.png -o out.png filter 1 border wrap", "'wrap'"),
             ("in.png -o out.png blur 5", "RADIUS"),
+            ("in.png -o out.png gray up", "'up'"),
+            ("in.png -o out.png convert 9", "-8 to 8"),
+            ("in.png -o out.png stretch 9 9", "LOW must be below HIGH"),
+            ("in.png -o out.png threshold", "FORM is missing"),
+            ("in.png -o out.png threshold raise 1,2", "R,G,B"),
+            ("in.png -o out.png threshold raise 1,,2", "LEVEL"),
+            ("gray.png -o out.png threshold raise 1,2,3", "gray"),
+            ("in.png -o out.png threshold outside 9,9,9 0 9,8,9 0", "HIGH must not be below LOW"),
+            ("in.png -o out.png compare like in.png", "'like'"),
+            ("in.png -o out.png premultiply", "no alpha"),
+            ("in.png -o out.png stats 1", "one word too many"),
             ("gray.png -o out.png addc 1 2 3", "gray"),
             ("in.png -o out.png -- addc 1", "both sides"),
             ("in.png -o out.png addc 1 --", "both sides"),
@@ -505,7 +630,7 @@ class Help(ProgramTest):
             with self.subTest(word):
                 own = self.run_program("--help", word)
                 self.assertEqual((own.returncode, own.stderr), (0, ""))
-                self.assertRegex(own.stdout, rf"\Ausage: rnximg INPUT -o OUTPUT {word}\b[^\n]*\n\n\S")
+                self.assertRegex(own.stdout, rf"\Ausage: rnximg INPUT (-o OUTPUT|\[-o OUTPUT\]) {word}\b[^\n]*\n\n\S")
 
     def test_readme_shows_hello_as_it_is(self):
         self.assertIn((ROOT / "examples/hello.c").read_text(), (ROOT / "README.md").read_text())
