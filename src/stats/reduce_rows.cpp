@@ -30,7 +30,7 @@ struct OfImage {
   }
   static RNX_INLINE Vec<f32> value(Vec<f32> v) { return v; }
   static RNX_INLINE TwoDoubles exact(const f32* v, const f32*) { return TwoDoubles::load(v); }
-  static f64 exact(const f32* v, const f32*, s64 i) { return f64{v[i]}; }
+  static f64 exact(const f32* v, const f32*, s64 i) { return f64{simd::loadOne(v + i)}; }
 };
 
 struct OfDifference {
@@ -46,7 +46,7 @@ struct OfDifference {
   static RNX_INLINE TwoDoubles exact(const f32* a, const f32* b) {
     return {TwoDoubles::load(a).raw - TwoDoubles::load(b).raw};
   }
-  static f64 exact(const f32* a, const f32* b, s64 i) { return f64{a[i]} - f64{b[i]}; }
+  static f64 exact(const f32* a, const f32* b, s64 i) { return f64{simd::loadOne(a + i)} - f64{simd::loadOne(b + i)}; }
 };
 
 // ---- Totals by channel of lanes that stand for every stride-th element ----
