@@ -486,6 +486,8 @@ void Arguments::place() {
         std::memcpy(o.pointer + 4 * k, &entry, 4);
       }
     }
+    // Random lower levels are seldom below random upper ones in every channel.
+    if (p.name == "thresholdLT" && !twist(2)) std::memset(o.pointer, 0, static_cast<size_t>(o.rowBytes));
     if (p.name == "pSpec") fillSpec(o.pointer);
   }
 }
