@@ -1,7 +1,7 @@
 #include "arguments.h"
 
 #include <algorithm>
-#include <cstdio>
+#include <cstdlib>
 
 namespace rnx::fuzz {
 namespace {
@@ -45,12 +45,6 @@ void forgiveNaN(u8* bytes, s64 count) {
 int digitOf(std::string_view layout) {
   const auto at = layout.find_first_of("1234");
   return at == std::string_view::npos ? 1 : layout[at] - '0';
-}
-
-// Far values stay far, and sums of them in range.
-s64 bounded(f64 value) {
-  constexpr f64 kFar = 0x1p50;
-  return static_cast<s64>(std::clamp(value, -kFar, kFar));
 }
 
 struct Channels {
@@ -125,6 +119,7 @@ f64 anyFloat(Chooser& choose) {
 }  // namespace
 
 Arena Arguments::arena_;
+bool Arguments::aligned = std::getenv("RNX_ALIGNED") != nullptr;
 
 Arguments::Arguments(const Signature& signature, Chooser& choose, Mood mood)
     : s_(signature), choose_(choose), mood_(mood), call_(signature) {
@@ -134,8 +129,8 @@ Arguments::Arguments(const Signature& signature, Chooser& choose, Mood mood)
   chooseScalars();
   chooseSizes();
   chooseSpec();
-  describe();
-  for (int i = 0; i < 200 && largest() > kMostBytes; ++i) shrink(), describe();
+  describeOperands();
+  for (int i = 0; i < 200 && largest() > kMostBytes; ++i) shrink(), describeOperands();
   if (hostile()) overlap();
   place();
   setSizes();
@@ -239,6 +234,7 @@ void Arguments::chooseStep(size_t index, s64 rowBytes) {
   if (rule >= 215 && rule < 225) step = rule - 220;
   if (rule >= 250) step = kFar[static_cast<size_t>(rule - 250) % std::size(kFar)];
   if (rule == 249 && s_.isLong) step = INT64_MIN + 64;
+  if (aligned) step = step / 16 * 16 + (step > 0 && step % 16 != 0 && step < INT_MAX - 16 ? 16 : 0);
   steps_[index] = step;
 }
 
@@ -259,7 +255,8 @@ void Arguments::describeImage(size_t index) {
   if (s_.has("dstroi")) size = written ? dstRoi_ : srcRoi_;
   const bool isResize = s_.has("tileoffset");
   if (isResize) {
-    size = written ? Sizes{std::min(roi_.width, result_.width - tileX_), std::min(roi_.height, result_.height - tileY_)}
+    size = written ? Sizes{std::min(roi_.width, bounded(static_cast<f64>(result_.width) - static_cast<f64>(tileX_))),
+                           std::min(roi_.height, bounded(static_cast<f64>(result_.height) - static_cast<f64>(tileY_)))}
                    : whole_;
   }
   o.rows = size.height;
@@ -270,6 +267,12 @@ void Arguments::describeImage(size_t index) {
   chooseStep(index + 1, o.rowBytes);
   const s64 step = o.step = stepOf(index);
   if (o.empty()) o.rows = o.rowBytes = 0;
+
+  // The other channels between those of a channel pointer belong to the image, where its rows follow each other.
+  if (used < pixel && step == size.width * pixel && !o.empty()) {
+    o.rowBytes = bounded(static_cast<f64>(o.rows - 1) * static_cast<f64>(step)) + o.rowBytes;
+    o.rows = 1;
+  }
 
   // Frames and neighbourhoods reach beyond the pointer.
   const bool inPlaceFrame = s_.has("dstroi") && p.role == "srcdst";
@@ -336,7 +339,7 @@ void Arguments::describeArray(size_t index) {
   operands_.push_back(o);
 }
 
-void Arguments::describe() {
+void Arguments::describeOperands() {
   operands_.clear();
   const auto parameters = s_.parameters();
   for (size_t i = 0; i < parameters.size(); ++i) {
@@ -369,6 +372,7 @@ void Arguments::overlap() {
     s64 delta = 0;
     if (how >= 100) delta = choose_.between(-70, 70);
     if (how >= 180) delta = root.step * choose_.between(-2, 2) + choose_.between(-3, 3);
+    if (aligned) delta = delta / 16 * 16;
     if (excluded && (delta != 0 || s_.subsystem != "fft")) continue;
     if (s_.has("dstroi") && delta == 0) continue;  // means in place: those forms are exports of their own
     if (std::abs(static_cast<f64>(delta)) > kMostBytes) continue;
@@ -438,9 +442,11 @@ void Arguments::place() {
     const u8 placement = choose_.byte();
     // Images, specs and buffers may lie anywhere, arrays of numbers where their type may.
     const Parameter& p = parameter(operands_[i].parameter);
-    const bool anywhere = operands_[i].isImage || p.name == "pSpec" || p.name == "pBuffer" || p.role == "meminit";
+    const bool anywhere =
+        (operands_[i].isImage && !aligned) || p.name == "pSpec" || p.name == "pBuffer" || p.role == "meminit";
     int where = placement % 4;
     if (where >= 2) where = 2 + (anywhere ? placement / 4 : placement / 64 * 16 + 14);
+    if (aligned && operands_[i].isImage) low = -((-low + 15) / 16 * 16), high = low + (high - low + 15) / 16 * 16;
     Block& block = arena_.open(static_cast<size_t>(high - low), where, choose_.word(2) + i);
     blocks[i] = &block;
     operands_[i].pointer = reinterpret_cast<u8*>(reinterpret_cast<uintptr_t>(block.begin()) - static_cast<u64>(low));
@@ -452,10 +458,8 @@ void Arguments::place() {
       o.pointer = reinterpret_cast<u8*>(reinterpret_cast<uintptr_t>(base.pointer) + static_cast<u64>(o.delta));
       blocks[i] = blocks[static_cast<size_t>(o.anchor)];
     }
-    const auto origin = reinterpret_cast<uintptr_t>(o.pointer) + static_cast<u64>(o.first);
     for (s64 y = 0; y < o.rows && !o.empty(); ++y) {
-      blocks[i]->allow(reinterpret_cast<u8*>(origin + static_cast<u64>(y * o.step)), o.rowBytes,
-                       o.writable ? Access::kWrite : Access::kRead);
+      blocks[i]->allow(o.row(y), o.rowBytes, o.writable ? Access::kWrite : Access::kRead);
     }
   }
 
@@ -482,6 +486,8 @@ void Arguments::place() {
         std::memcpy(o.pointer + 4 * k, &entry, 4);
       }
     }
+    // Random lower levels are seldom below random upper ones in every channel.
+    if (p.name == "thresholdLT" && !twist(2)) std::memset(o.pointer, 0, static_cast<size_t>(o.rowBytes));
     if (p.name == "pSpec") fillSpec(o.pointer);
   }
 }
@@ -492,7 +498,7 @@ void Arguments::fillFloats(const Operand& o) {
   const int bytes = elementKind(parameter(o.parameter).type);
   u64 state = choose_.word(2) + 1;
   for (s64 y = 0; y < o.rows; ++y) {
-    u8* row = o.pointer + o.first + y * o.step;
+    u8* row = o.row(y);
     for (s64 x = 0; x + bytes <= o.rowBytes; x += bytes) {
       state = state * 6364136223846793005u + 1442695040888963407u;
       const f64 value = static_cast<f64>(static_cast<s64>(state) >> 40) / 8192;  // up to 1024
@@ -554,7 +560,7 @@ std::vector<u8> Arguments::results() const {
     const Parameter& p = parameter(o.parameter);
     if (!o.writable || o.empty() || p.name == "pSpec" || p.name == "pBuffer" || p.role == "meminit") continue;
     for (s64 y = 0; y < o.rows; ++y) {
-      const u8* row = o.pointer + o.first + y * o.step;
+      const u8* row = o.row(y);
       all.insert(all.end(), row, row + o.rowBytes);
       u8* copy = all.data() + all.size() - o.rowBytes;
       if (elementKind(p.type) == 4) forgiveNaN<f32>(copy, o.rowBytes);
@@ -577,11 +583,11 @@ std::string Arguments::difference(const std::vector<u8>& one, const std::vector<
   size_t at = 0;
   while (at < one.size() && one[at] == other[at]) ++at;
   return "the results differ, first in byte " + std::to_string(at) + " of " + std::to_string(one.size()) +
-         describeOperands(nullptr);
+         describe(nullptr);
 }
 
 // Each operand, and where it has the byte.
-std::string Arguments::describeOperands(const u8* byte) const {
+std::string Arguments::describe(const u8* byte) const {
   std::string text;
   for (size_t i = 0; i < s_.parameters().size(); ++i) {
     if (!parameter(i).isPointer() && !parameter(i).isStep()) {
@@ -609,8 +615,7 @@ std::string Arguments::verdict(RnxStatus status) const {
   for (const Block* block : arena_.blocks()) {
     const u8* byte = block->damage(mayWrite);
     if (byte == nullptr) continue;
-    return std::string(status < 0 ? "a refused call wrote" : "a byte was written that may not be") +
-           describeOperands(byte);
+    return std::string(status < 0 ? "a refused call wrote" : "a byte was written that may not be") + describe(byte);
   }
   return {};
 }

@@ -2,6 +2,7 @@
 // kind, specs that are fresh, stale or rubbish.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <deque>
 #include <string>
@@ -16,6 +17,12 @@ namespace rnx::fuzz {
 using test::Call;
 using test::Parameter;
 using test::Signature;
+
+// Far values stay far, and sums of them in range.
+inline s64 bounded(f64 value) {
+  constexpr f64 kFar = 0x1p50;
+  return static_cast<s64>(std::clamp(value, -kFar, kFar));
+}
 
 enum class Mood {
   kValid,   // what a careful caller passes
@@ -35,12 +42,19 @@ struct Operand {
 
   s64 low() const { return first + std::min<s64>(0, (rows - 1) * step); }
   s64 high() const { return first + std::max<s64>(0, (rows - 1) * step) + rowBytes; }
+  // Through integers: the pointer itself may lie anywhere.
+  u8* row(s64 y) const {
+    return reinterpret_cast<u8*>(reinterpret_cast<uintptr_t>(pointer) + static_cast<u64>(first + y * step));
+  }
   bool empty() const { return rows < 1 || rowBytes < 1; }
 };
 
 class Arguments {
 public:
   Arguments(const Signature& signature, Chooser& choose, Mood mood);
+
+  // Images at multiples of their elements only: for a library that is sanitized for alignment. Set by RNX_ALIGNED=1.
+  static bool aligned;
 
   Call& call() { return call_; }
   Arena& arena() { return arena_; }
@@ -55,6 +69,9 @@ public:
   bool isComparable() const;
   // Where two results of one call differ.
   std::string difference(const std::vector<u8>& one, const std::vector<u8>& other) const;
+
+  // The arguments in words, and where each operand has the byte, unless that is null.
+  std::string describe(const u8* byte) const;
 
 private:
   struct Sizes {
@@ -104,7 +121,7 @@ private:
   void chooseScalar(size_t index);
   void chooseStep(size_t index, s64 rowBytes);
 
-  void describe();  // the operands, from the sizes
+  void describeOperands();  // from the sizes
   void describeImage(size_t index);
   void describeArray(size_t index);
   s64 stepOf(size_t pointer) const;
@@ -114,7 +131,6 @@ private:
   void place();
   void fillFloats(const Operand& operand);
   void setSizes();
-  std::string describeOperands(const u8* byte) const;
 };
 
 }  // namespace rnx::fuzz

@@ -161,8 +161,10 @@ void Arguments::chooseResize() {
   tileY_ = twist(12) ? choose_.anyInteger(s_.isLong) : choose_.between(0, result_.height - 1);
   if (choose_.oneIn(2)) tileX_ = tileY_ = 0;
   if (!hostile() || !choose_.oneIn(4)) {
-    const s64 restX = std::max<s64>(1, std::min(result_.width, result_.width - tileX_));
-    const s64 restY = std::max<s64>(1, std::min(result_.height, result_.height - tileY_));
+    const s64 restX =
+        std::max<s64>(1, std::min(result_.width, bounded(static_cast<f64>(result_.width) - static_cast<f64>(tileX_))));
+    const s64 restY = std::max<s64>(
+        1, std::min(result_.height, bounded(static_cast<f64>(result_.height) - static_cast<f64>(tileY_))));
     roi_ = choose_.oneIn(2) ? Sizes{restX, restY} : Sizes{choose_.between(1, restX), choose_.between(1, restY)};
   }
   const bool inside = tileX_ >= 0 && tileY_ >= 0 && tileX_ < result_.width && tileY_ < result_.height;

@@ -77,10 +77,12 @@ private:
     }
   }
 
+  static void storeOne(f32* p, f32 value) { __builtin_memcpy(p, &value, sizeof(f32)); }  // at any address
+
   static void number(const f32* aRe, const f32* bRe, f32* re, const f32* aIm, const f32* bIm, f32* im) {
-    const f32 ar = *aRe, ai = *aIm, br = *bRe, bi = *bIm;
-    *re = productRe<kConjugate>(ar, ai, br, bi);
-    *im = productIm<kConjugate>(ar, ai, br, bi);
+    const f32 ar = simd::loadOne(aRe), ai = simd::loadOne(aIm), br = simd::loadOne(bRe), bi = simd::loadOne(bIm);
+    storeOne(re, productRe<kConjugate>(ar, ai, br, bi));
+    storeOne(im, productIm<kConjugate>(ar, ai, br, bi));
   }
 
   // Real numbers in row 0 and, for even heights, in the last row; between them complex ones down the column.
@@ -91,13 +93,14 @@ private:
     const auto a = [&](s64 row, int c) { return at(call_.left, call_.leftStep, row, c); };
     const auto b = [&](s64 row, int c) { return at(call_.right, call_.rightStep, row, c); };
     const auto d = [&](s64 row, int c) { return at(call_.dst, call_.dstStep, row, c); };
+    const auto real = [&](s64 row, int c) { storeOne(d(row, c), simd::loadOne(a(row, c)) * simd::loadOne(b(row, c))); };
     const s64 h = call_.height;
     for (int c = 0; c < kUsed; ++c) {
-      *d(0, c) = *a(0, c) * *b(0, c);
+      real(0, c);
       for (s64 re = 1, im = 2; im < h; re += 2, im += 2) {
         number(a(re, c), b(re, c), d(re, c), a(im, c), b(im, c), d(im, c));
       }
-      if (h % 2 == 0) *d(h - 1, c) = *a(h - 1, c) * *b(h - 1, c);
+      if (h % 2 == 0) real(h - 1, c);
     }
   }
 
