@@ -31,7 +31,7 @@ def operations(program, text):
         entry = re.match(r"  (\S+)", line)
         if entry:
             usage, _, description = ask(program, "--help", entry[1]).partition("\n\n")
-            synopsis = usage.split("-o OUTPUT ", 1)[1]
+            synopsis = re.split(r"-o OUTPUT\]? ", usage, maxsplit=1)[1]
             brief, _, details = description.partition("\n")
             parts.append(f".TP\n.B {roff(synopsis)}\n{roff(brief)}")
             if details.strip():  # as it was laid out

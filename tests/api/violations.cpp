@@ -225,14 +225,6 @@ Violations valueRanges(const Signature&) {
   return list;
 }
 
-Violations bitOffsets(const Signature& s) {
-  Violations list;
-  for (const Parameter& p : s.parameters()) {
-    if (p.name.ends_with("BitOffset")) appendNumbers(list, p, {-1, -8, INT_MIN});
-  }
-  return list;
-}
-
 // ---- The linear filter ----
 
 // The size query writes zeros when it refuses: tests of its own look after that.
@@ -308,7 +300,6 @@ constexpr CheckRule kRules[] = {
     {"thresholds", -19, crossedThresholds},
     {"planes", -8, nulls},
     {"range", -12, valueRanges},
-    {"bitoffset", -6, bitOffsets},
     {"filterquerysizes", -6, nullptr},
     {"filtersizesnull", -8, nullptr},
     {"filtersizeoverflow", -232, nullptr},
