@@ -267,16 +267,41 @@ void transposeRows(Size size) {
   one("32f C4", 4, rnxiTranspose_32f_C4R, float{});
 }
 
-void transposeInPlaceRow(Size size) {
-  addRow("TransposeInPlace 8u C1", size,
-         {floorOf(2 * size.pixels()), ours([=]() -> Work {
-            const Image<Rnx8u> a(size, 1);
-            return [=] { rnxiTranspose_8u_C1IR(a.data(), a.step(), size.roi()); };
+// In place: every call undoes or repeats the one before.
+template <class T>
+void inPlaceRow(const std::string& name, Size size, int channels,
+                const std::function<void(T* image, int step, RnxiSize roi)>& work, [[maybe_unused]] const CvPlain& cv) {
+  addRow(name, size,
+         {floorOf(2 * channels * size.pixels() * static_cast<int64_t>(sizeof(T))), ours([=]() -> Work {
+            const Image<T> a(size, channels);
+            return [=] { work(a.data(), a.step(), size.roi()); };
           }),
           opencv([=]() -> Work {
-            const Image<Rnx8u> a(size, 1);
-            return [=, keep = a, m = mat(a, size, 1)]() mutable { RNX_OPENCV(cv::transpose(m, m)); };
+            const Image<T> a(size, channels);
+            return [=, keep = a, m = mat(a, size, channels)]() mutable { cv(m, m); };
           })});
+}
+
+void transposeInPlaceRows(Size size) {
+  inPlaceRow<Rnx8u>("TransposeInPlace 8u C1", size, 1, rnxiTranspose_8u_C1IR, CV_WORK(cv::transpose(d, d)));
+  inPlaceRow<Rnx8u>("TransposeInPlace 8u C3", size, 3, rnxiTranspose_8u_C3IR, CV_WORK(cv::transpose(d, d)));
+  inPlaceRow<Rnx16u>("TransposeInPlace 16u C4", size, 4, rnxiTranspose_16u_C4IR, CV_WORK(cv::transpose(d, d)));
+  inPlaceRow<float>("TransposeInPlace 32f C1", size, 1, rnxiTranspose_32f_C1IR, CV_WORK(cv::transpose(d, d)));
+  inPlaceRow<float>("TransposeInPlace 32f C3", size, 3, rnxiTranspose_32f_C3IR, CV_WORK(cv::transpose(d, d)));
+}
+
+void mirrorInPlaceRows(Size size) {
+  for (const int flip : {0, 1, 2}) {
+    const std::string name = " flip" + std::to_string(flip);
+    inPlaceRow<Rnx8u>(
+        "MirrorInPlace 8u C1" + name, size, 1,
+        [flip](auto* a, int step, RnxiSize roi) { rnxiMirror_8u_C1IR(a, step, roi, flip); },
+        CV_WORK(cv::flip(d, d, flip == 2 ? -1 : flip)));
+    inPlaceRow<Rnx8u>(
+        "MirrorInPlace 8u C3" + name, size, 3,
+        [flip](auto* a, int step, RnxiSize roi) { rnxiMirror_8u_C3IR(a, step, roi, flip); },
+        CV_WORK(cv::flip(d, d, flip == 2 ? -1 : flip)));
+  }
 }
 
 // ---- Borders ----
@@ -301,10 +326,24 @@ void borderRow(const std::string& name, Size size, int channels, int border,
           })});
 }
 
+// Only the frame is written; the floor is a copy of that much.
+void borderInPlaceRow(Size size, int border) {
+  const Size outer = {size.width + 2 * border, size.height + 2 * border};
+  addRow("BorderInPlace Replicate 8u C1 border " + std::to_string(border), size,
+         {floorOf(2 * (outer.pixels() - size.pixels())), ours([=]() -> Work {
+            const Image<Rnx8u> d(outer, 1);
+            return [=] {
+              rnxiCopyReplicateBorder_8u_C1IR(d.data() + border * d.step() + border, d.step(), size.roi(), outer.roi(),
+                                              border, border);
+            };
+          })});
+}
+
 void borderRows(Size size) {
   enum { kConst = 0, kReplicate = 1, kReflect101 = 4 };  // the peer's names for the kinds
   static const Rnx8u k8[3] = {1, 2, 3};
   for (const int b : {3, 8}) {
+    borderInPlaceRow(size, b);
     borderRow<Rnx8u>(
         "Replicate 8u C1", size, 1, b,
         [=](auto* a, int as, RnxiSize i, auto* d, int ds, RnxiSize o) {
@@ -385,14 +424,14 @@ void addRows() {
     maskedRows(size);
     channelRows(size);
     mirrorRows(size);
+    mirrorInPlaceRows(size);
     transposeRows(size);
     borderRows(size);
     bitRows(size);
   }
   transposeRows({4096, 4096});
   transposeRows({1003, 997});
-  transposeInPlaceRow({512, 512});
-  transposeInPlaceRow({4096, 4096});
+  for (const int n : {512, 997, 4096}) transposeInPlaceRows({n, n});
 }
 
 const Registration kRows(addRows);

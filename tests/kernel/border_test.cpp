@@ -120,6 +120,15 @@ TEST_P(Borders, MatchTheModel) {
   }
 }
 
+TEST_P(Borders, AreTheSameAroundTheCaches) {
+  if (inPlace) return;
+  const ScopedCache tiny(kTinyCache);
+  for (const int vector : vectorWidths()) {
+    const ScopedWidth bytes(vector);
+    ASSERT_NO_FATAL_FAILURE(apart({random.between(9000, 10000) / pixelBytes, 64, 2, 1, 5, 3}, false));
+  }
+}
+
 TEST_P(Borders, CopyTheInteriorFirstWhereImagesOverlap) {
   if (inPlace) return;
   for (int i = 0; i < 60; ++i) {

@@ -61,7 +61,7 @@ protected:
     }
   }
 
-  void apart(int flip, s64 width, s64 height) {
+  void apart(int flip, s64 width, s64 height, s64 srcStep = 0) {
     const bool diagonal = flip >= rnxAxisMainDiagonal;
     const Steps steps = transposes || !diagonal ? Steps::kAny : Steps::kApart;
     const auto step = [&](s64 rowBytes) {
@@ -70,7 +70,7 @@ protected:
     };
     const s64 toWidth = diagonal ? height : width, toHeight = diagonal ? width : height;
     Image src, dst;
-    placeRandomly(src, random, width * pixelBytes, height, step(width * pixelBytes));
+    placeRandomly(src, random, width * pixelBytes, height, srcStep != 0 ? srcStep : step(width * pixelBytes));
     placeRandomly(dst, random, toWidth * pixelBytes, toHeight, step(toWidth * pixelBytes));
     model(flip, width, height, src.shadow(), src.step(), dst.shadow(), dst.step());
     ASSERT_EQ(run(flip, width, height, src.data(), src.step(), dst.data(), dst.step()), rnxStatusNoError);
@@ -126,6 +126,21 @@ TEST_P(Mirrors, MatchTheModel) {
         if (transposes && !s.types.starts_with("32fc")) {
           ASSERT_NO_FATAL_FAILURE(within(flip, w, w));
         }
+      }
+    }
+  }
+}
+
+// Blocks of a transposition depend on how many of the source's rows share a place in the first cache.
+TEST_P(Mirrors, TransposeWhateverTheStep) {
+  if (inPlace) return;
+  for (const int flip : flips()) {
+    if (flip < rnxAxisMainDiagonal) continue;
+    for (const s64 step : {s64{512}, s64{1024}, s64{2048}, s64{4096}, s64{3 * 4096}}) {
+      for (const int vector : vectorWidths()) {
+        const ScopedWidth bytes(vector);
+        const s64 most = std::min<s64>(step / pixelBytes, 150);
+        ASSERT_NO_FATAL_FAILURE(apart(flip, random.between(most / 4, most), random.between(60, 270), step));
       }
     }
   }

@@ -1,5 +1,5 @@
-// A spec for one pair of image sizes and work buffers, each in memory of exactly the reported size, flush against a
-// page that cannot be touched, and at an odd address.
+// A spec for one pair of image sizes and work buffers, each in memory of exactly the reported size: flush against a
+// page that cannot be touched, or at any address between margins that must stay as they are.
 #pragma once
 
 #include <memory>
@@ -17,8 +17,16 @@ struct Extent2 {
 class ResizePlan {
 public:
   // For the apply function s.
-  ResizePlan(const Signature& s, Extent2 src, Extent2 dst, Random& random)
-      : s_(s), src_(src), dst_(dst), srcLong_(src.sizeLong()), dstLong_(dst.sizeLong()), random_(random) {
+  ResizePlan(const Signature& s, Extent2 src, Extent2 dst, Random& random, Placement placement = Placement::kFlushEnd,
+             int misalignment = 0)
+      : s_(s),
+        src_(src),
+        dst_(dst),
+        srcLong_(src.sizeLong()),
+        dstLong_(dst.sizeLong()),
+        random_(random),
+        placement_(placement),
+        misalignment_(misalignment) {
     kind_ = s.family == "ResizeNearest" ? rnxNearest : rnxLinear;
     type_ = s.types == "8u" ? 1 : s.types == "16u" ? 5 : s.types == "16s" ? 7 : s.types == "32f" ? 13 : 19;
     s64 bytes = 0, initBytes = 0;
@@ -31,8 +39,10 @@ public:
       size.set("pSpecSize", &bytes32).set("pInitBufSize", &initBytes32);
     }
     EXPECT_EQ(size(), rnxStatusNoError);
-    memory_.place({s.isLong ? bytes : bytes32, 1, 0}, Placement::kFlushEnd, random);
+    memory_.place({s.isLong ? bytes : bytes32, 1, 0}, placement, random, misalignment);
+    memory_.expectNow();
     EXPECT_EQ(init(), rnxStatusNoError);
+    EXPECT_TRUE(onlyInside(memory_));
     memory_.expectNow();
   }
 
@@ -53,7 +63,8 @@ public:
   RnxStatus run(const u8* src, s64 srcStep, u8* dst, s64 dstStep, s64 x, s64 y, Extent2 tile, u32 border) {
     const s64 pixel = s_.channels() * bytesOf(s_.source());
     const RnxiPointL from = sourceOffset(x, y);
-    Image buffer({bufferBytes(tile), 1, 0}, Placement::kFlushEnd, random_);
+    Image buffer({bufferBytes(tile), 1, 0}, placement_, random_, misalignment_);
+    buffer.expectNow();
     const RnxiSizeL sizeLong = tile.sizeLong();
     Call call(s_);
     call.set("pSrc", src + from.y * srcStep + from.x * pixel).set("srcStep", srcStep);
@@ -65,7 +76,9 @@ public:
       call.set("dstOffset", RnxiPoint{static_cast<int>(x), static_cast<int>(y)}).set("dstSize", tile.size());
     }
     if (kind_ == rnxLinear) call.set("border", border);
-    return call();
+    const RnxStatus status = call();
+    EXPECT_TRUE(onlyInside(buffer));
+    return status;
   }
 
   s64 bufferBytes(Extent2 tile) const {
@@ -98,6 +111,12 @@ public:
   }
 
 private:
+  // Nothing beside the block was written.
+  static testing::AssertionResult onlyInside(Image& block) {
+    std::memcpy(block.shadow(), block.data(), static_cast<size_t>(block.shape().rowBytes));
+    return block.matches();
+  }
+
   Call& setSizes(Call& call) const {
     if (s_.isLong) return call.set("srcSize", &srcLong_).set("dstSize", &dstLong_);
     return call.set("srcSize", src_.size()).set("dstSize", dst_.size());
@@ -107,6 +126,8 @@ private:
   Extent2 src_, dst_;
   RnxiSizeL srcLong_, dstLong_;
   Random& random_;
+  Placement placement_;
+  int misalignment_;
   int kind_, type_;
   Image memory_;
 };
