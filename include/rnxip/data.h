@@ -26,7 +26,8 @@ extern "C" {
 
    Arguments
      pSrc, srcStep: source image: first pixel of the ROI and step in bytes
-     pDst, dstStep, dstBitOffset: one-bit destination image, its step in bytes, and the bit at which the rows start
+     pDst, dstStep: one-bit destination image and its step in bytes
+     dstBitOffset: the bit at which the rows of the destination start
      roiSize: size of the region of interest in pixels
      threshold: values above it give 1
 
@@ -53,7 +54,8 @@ RnxStatus rnxiGrayToBin_32f1u_C1R(const Rnx32f* pSrc, int srcStep, Rnx8u* pDst, 
        dst = bit ? hiVal : loVal
 
    Arguments
-     pSrc, srcStep, srcBitOffset: one-bit source image, its step in bytes, and the bit at which the rows start
+     pSrc, srcStep: one-bit source image and its step in bytes
+     srcBitOffset: the bit at which the rows of the source start
      pDst, dstStep: destination image and its step
      roiSize: size of the region of interest in pixels
      loVal, hiVal: the values for bits 0 and 1

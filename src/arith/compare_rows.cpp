@@ -1,7 +1,6 @@
 // Row kernels of the comparison of two images: 255 where the relation holds in every channel, else 0. What is not a
 // number makes every relation false.
 #include "arith/compare_kernels.h"
-#include "simd/cast.h"
 #include "simd/pixels.h"
 
 namespace rnx::arith {
@@ -52,44 +51,30 @@ struct ColorsOf {
 template <class T, class Relation, class Channels>
 struct Compare {
   static constexpr int C = Channels::kChannels;
-
-  RNX_INLINE Vec<u8> operator()(const PixelBlock<T, C>& a, const PixelBlock<T, C>& b) const {
-    Mask<T> masks[PixelBlock<T, C>::kVectors];
-    RNX_UNROLL
-    for (int j = 0; j < PixelBlock<T, C>::kVectors; ++j) masks[j] = Relation::template holds<T>(a.v[j], b.v[j]);
-    Vec<u8> bytes[C];
-    RNX_UNROLL
-    for (int c = 0; c < C; ++c) bytes[c] = Channels::relevant(maskBytes(masks + c * static_cast<int>(sizeof(T))));
-    return foldPixels<C>(bytes);
-  }
-};
-
-// One channel needs no folding: masks are narrowed to bytes.
-template <class T, class Relation>
-struct CompareElements {
-  using B = Block<T, kBytes>;
+  using B = PixelBlock<T, C>;
 
   RNX_INLINE Vec<u8> operator()(const B& a, const B& b) const {
-    Block<typename MaskOf<sizeof(T)>::Type, kBytes> masks;
+    Block<typename MaskOf<sizeof(T)>::Type, B::kLanes> masks;
     RNX_UNROLL
     for (int j = 0; j < B::kVectors; ++j) masks.v[j] = Relation::template holds<T>(a.v[j], b.v[j]);
-    return narrowTo<s8>(masks).v[0].template as<u8>();
+    const auto bytes = map(narrowTo<s8>(masks), [](Vec<s8> v) { return Channels::relevant(v.as<u8>()); });
+    if constexpr (C == 1) {
+      return bytes.v[0];
+    } else if constexpr (C == 3) {
+      return foldThrees(bytes);
+    } else {
+      return foldFours(bytes);
+    }
   }
 };
 
 template <class T, class Relation, class Channels>
 void compare(const CompareCall<T>& call) {
   constexpr int C = Channels::kChannels;
-  const auto run = [&](auto f, const auto& left, const auto& right) RNX_INLINE_LAMBDA {
-    forEachElement<AllChannels<u8>>(call.rows, call.dst, call.dstStep, f, left, right);
-  };
-  if constexpr (C == 1) {
-    using Source = ImageSource<T, Block<T, kBytes>>;
-    run(CompareElements<T, Relation>(), Source{call.left, call.leftStep}, Source{call.right, call.rightStep});
-  } else {
-    using Source = PixelSource<T, C>;
-    run(Compare<T, Relation, Channels>(), Source{call.left, call.leftStep}, Source{call.right, call.rightStep});
-  }
+  using Source = std::conditional_t<C == 1, ImageSource<T, PixelBlock<T, 1>>, PixelSource<T, C>>;
+  Compare<T, Relation, Channels> f;
+  forEachElement<AllChannels<u8>>(call.rows, call.dst, call.dstStep, f, Source{call.left, call.leftStep},
+                                  Source{call.right, call.rightStep});
 }
 
 template <class T, class Channels>

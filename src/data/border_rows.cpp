@@ -63,11 +63,17 @@ void extend(const BorderCall& call) {
   u8* row = inside;
   for (s64 y = 0; y < call.height; ++y, row = core::at(row, call.dstStep)) {
     if (call.src != nullptr) {
-      Row::copy(row + call.left * P, src, call.width);
+      if (call.stream) {
+        Row::copyStreamed(row + call.left * P, src, call.width);
+      } else {
+        Row::copy(row + call.left * P, src, call.width);
+      }
       src = core::at(src, call.srcStep);
     }
     Frame<P, Keeps>::extend(call.border, call.value, row, call.left, call.width, call.right);
   }
+
+  if (call.stream) endStream();
 
   const auto outside = [&](s64 y) {
     u8* dst = core::at(inside, y * call.dstStep);

@@ -105,6 +105,22 @@ public:
     if (i < size) storeMerged(dst + size - kBytes, Vec<u8>::load(src + size - kBytes));
   }
 
+  // The same around the caches. Behind the last row belongs endStream().
+  static RNX_INLINE void copyStreamed(u8* dst, const u8* src, s64 n) {
+    const s64 size = n * P;
+    if (Keeps || size < 4 * kBytes) return copy(dst, src, n);
+    Vec<u8>::load(src).store(dst);
+    s64 i = elementsToAlignment(dst);
+    for (; i + 2 * kBytes <= size; i += 2 * kBytes) {
+      const Vec<u8> v0 = Vec<u8>::load(src + i), v1 = Vec<u8>::load(src + i + kBytes);
+      v0.stream(dst + i), v1.stream(dst + i + kBytes);
+    }
+    for (; i < size; i += kBytes) {
+      const s64 at = std::min(i, size - kBytes);
+      Vec<u8>::load(src + at).store(dst + at);
+    }
+  }
+
   // dst[i] = src[n-1-i]. The rows are apart.
   static RNX_INLINE void reverse(u8* dst, const u8* src, s64 n) {
     if (n < kGroup) {
@@ -118,8 +134,10 @@ public:
   static RNX_INLINE void fill(u8* dst, const u8* pixel, s64 n) {
     if (n >= kGroup) {
       forEachGroup(n, kGroup, Fill(dst, pixel));
-    } else if (P % 3 == 0 || Keeps) {
+    } else if (Keeps) {
       for (s64 i = 0; i < n; ++i) movePixel(dst + i * P, pixel);
+    } else if (P % 3 == 0) {
+      if (n > 0) fillPart(dst, loadPixel<P>(pixel), static_cast<int>(n) * P);
     } else if (n > 0) {
       storePart(dst, static_cast<int>(n) * P, everyGroup(repeat(loadPixel<P>(pixel), 0)));
     }
@@ -216,6 +234,21 @@ private:
 
   static RNX_INLINE __m128i repeat(__m128i pixel, int k) {
     return _mm_shuffle_epi8(pixel, loadChunk(kRepeatIndex<P>.at[k]));
+  }
+
+  // Less than a group of equal pixels: parts from the start and one that ends with the last byte.
+  static RNX_INLINE void fillPart(u8* dst, __m128i pixel, int size) {
+    const auto parts = [&](auto bytes) RNX_INLINE_LAMBDA {
+      constexpr int kPart = decltype(bytes)::value;
+      storeStart<kPart>(dst, repeat(pixel, 0));
+      if (kPart == kChunk && size > 2 * kChunk) storeStart<kPart>(dst + kChunk, repeat(pixel, 1));
+      const int last = size - kPart;
+      storeStart<kPart>(dst + last, _mm_shuffle_epi8(pixel, loadChunk(kRepeatIndex<P>.at[0] + last % P)));
+    };
+    if (size >= 16) return parts(std::integral_constant<int, 16>());
+    if (size >= 8) return parts(std::integral_constant<int, 8>());
+    if (size >= 4) return parts(std::integral_constant<int, 4>());
+    parts(std::integral_constant<int, 2>());
   }
 
   struct Reverse {

@@ -13,24 +13,24 @@ struct FullRangeFunctor;
 
 template <>
 struct FullRangeFunctor<u8, u16> {
-  using Lane = u16;
+  using Lane = u8;
   explicit FullRangeFunctor(const ScaleCall&) {}
   template <int N>
-  RNX_INLINE Block<u16, N> operator()(const Block<s16, N>& block) const {  // the byte twice
-    return map(block, [](Vec<s16> v) RNX_INLINE_LAMBDA { return v.as<u16>() | Vec<u16>{v.as<u16>().raw << 8}; });
+  RNX_INLINE Block<u16, N> operator()(const Block<u8, N>& block) const {
+    return repeatBytes(block);
   }
 };
 
 // x * 257 - 32768
 template <>
 struct FullRangeFunctor<u8, s16> {
-  using Lane = s16;
-  explicit FullRangeFunctor(const ScaleCall& call) : unsigned_(call) {}
+  using Lane = u8;
+  explicit FullRangeFunctor(const ScaleCall&) {}
   template <int N>
-  RNX_INLINE Block<s16, N> operator()(const Block<s16, N>& block) const {
-    return map(unsigned_(block), [](Vec<u16> v) RNX_INLINE_LAMBDA { return v.as<s16>() ^ Vec<s16>::splat(INT16_MIN); });
+  RNX_INLINE Block<s16, N> operator()(const Block<u8, N>& block) const {
+    return map(repeatBytes(block),
+               [](Vec<u16> v) RNX_INLINE_LAMBDA { return v.as<s16>() ^ Vec<s16>::splat(INT16_MIN); });
   }
-  FullRangeFunctor<u8, u16> unsigned_;
 };
 
 // x * 16843009 - 2^31: the byte four times

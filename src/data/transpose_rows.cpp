@@ -21,16 +21,17 @@ struct Tile {
   static constexpr int kColumns = kChunk / P, kRows = kColumns;
 
   // The groups at row y and `apart` rows further.
-  static RNX_INLINE void move(const Image& image, s64 x, s64 y, s64 apart, s64) {
+  static RNX_INLINE void move(const Image image, s64 x, s64 y, s64 apart, s64) {
+    const u8* src = core::at(image.src, y * image.srcStep + x * P);
+    u8* dst = core::at(image.dst, x * image.dstStep + y * P);
     Vec<u8> v[kRows];
     RNX_UNROLL
-    for (int r = 0; r < kRows; ++r) {
-      v[r] = loadChunks(core::at(image.src, (y + r) * image.srcStep + x * P), apart * image.srcStep);
+    for (int r = 0; r < kRows; ++r, src = core::at(src, image.srcStep)) {
+      v[r] = loadChunks(src, apart * image.srcStep);
     }
     transposeChunks<P>(v);
     RNX_UNROLL
-    for (int c = 0; c < kColumns; ++c) {
-      u8* dst = core::at(image.dst, (x + c) * image.dstStep + y * P);
+    for (int c = 0; c < kColumns; ++c, dst = core::at(dst, image.dstStep)) {
       if (Keeps) v[c] = select(Mask<u8>::load(kAlphaBytes<P>.at), loadChunks(dst, apart * P), v[c]);
       if (apart == kRows) {
         v[c].store(dst);
@@ -41,22 +42,25 @@ struct Tile {
   }
 };
 
-// Pixels of 16 bytes only change places: some of a row at a time, to have less to count.
+// Pixels of 16 bytes only change places: four columns, as many as fill a cache line of the source.
 template <bool Keeps>
 struct Tile<16, Keeps> {
-  static constexpr int kColumns = 4, kRows = 1;
+  static constexpr int kColumns = 4, kRows = 2;
 
-  static RNX_INLINE void move(const Image& image, s64 x, s64 y, s64 apart, s64) {
+  static RNX_INLINE void move(const Image image, s64 x, s64 y, s64 apart, s64) {
     const u8* src = core::at(image.src, y * image.srcStep + x * 16);
     u8* dst = core::at(image.dst, x * image.dstStep + y * 16);
     RNX_UNROLL
-    for (int c = 0; c < kColumns; ++c, dst = core::at(dst, image.dstStep)) {
-      Vec<u8> v = loadChunks(src + c * 16, apart * image.srcStep);
-      if (Keeps) v = select(Mask<u8>::load(kAlphaBytes<16>.at), loadChunks(dst, apart * 16), v);
-      if (apart == kRows) {
-        v.store(dst);
-      } else {
-        storeChunks(dst, apart * 16, v);
+    for (int c = 0; c < kColumns; ++c, src += 16, dst = core::at(dst, image.dstStep)) {
+      RNX_UNROLL
+      for (int g = 0; g < kGroups; ++g) {
+        RNX_UNROLL
+        for (int r = 0; r < kRows; r += kGroups) {
+          u8* to = dst + (g * apart + r) * 16;
+          Vec<u8> v = loadChunks(core::at(src, g * apart * image.srcStep + r * image.srcStep), image.srcStep);
+          if (Keeps) v = select(Mask<u8>::load(kAlphaBytes<16>.at), Vec<u8>::load(to), v);
+          v.store(to);
+        }
       }
     }
   }
@@ -89,27 +93,26 @@ requires(P % 3 == 0) struct Tile<P, Keeps> {
   static constexpr int kLane = P / 3 * 4;
   static constexpr int kColumns = kChunk / kLane, kRows = 4 * kColumns;
 
-  static RNX_INLINE void move(const Image& image, s64 x, s64 y, s64 apart, s64 width) {
+  static RNX_INLINE void move(const Image image, s64 x, s64 y, s64 apart, s64 width) {
     // A chunk reaches 4 bytes behind its pixels, and may not reach behind the row.
     const int early = (x + kColumns) * P + 4 > width * P ? 1 : 0;
     const Vec<u8> expand = everyGroup(loadChunk(kLaneIndex<P>.expand[early]));
+    const u8* src = core::at(image.src, y * image.srcStep + x * P - 4 * early);
+    u8* dst = core::at(image.dst, x * image.dstStep + y * P);
     Vec<u8> v[4][kColumns];
     RNX_UNROLL
     for (int s = 0; s < 4; ++s) {
       RNX_UNROLL
-      for (int c = 0; c < kColumns; ++c) {
-        const s64 row = y + s * kColumns + c;
-        v[s][c] = shuffle(
-            loadChunks(core::at(image.src, row * image.srcStep + x * P - 4 * early), apart * image.srcStep), expand);
+      for (int c = 0; c < kColumns; ++c, src = core::at(src, image.srcStep)) {
+        v[s][c] = shuffle(loadChunks(src, apart * image.srcStep), expand);
       }
       if constexpr (kColumns > 1) transposeChunks<kLane>(v[s]);
     }
     RNX_UNROLL
-    for (int c = 0; c < kColumns; ++c) {
+    for (int c = 0; c < kColumns; ++c, dst = core::at(dst, image.dstStep)) {
       Vec<u8> part[4];
       RNX_UNROLL
       for (int s = 0; s < 4; ++s) part[s] = shuffle(v[s][c], everyGroup(loadChunk(kLaneIndex<P>.compress[s])));
-      u8* dst = core::at(image.dst, (x + c) * image.dstStep + y * P);
       storeChunks(dst, apart * P, firstBytes<12>(part[0], part[1]));
       storeChunks(dst + kChunk, apart * P, firstBytes<8>(part[1], part[2]));
       storeChunks(dst + 2 * kChunk, apart * P, firstBytes<4>(part[2], part[3]));
@@ -127,10 +130,36 @@ void pixelByPixel(const Image& image, s64 x0, s64 x1, s64 y0, s64 y1) {
   }
 }
 
+// Rows whose step is a multiple of a large power of two share few places of the first cache: with lines of 64 bytes,
+// 8 in each place, so many lines of one column.
+s64 linesOfColumn(s64 step) {
+  constexpr s64 kLine = 64, kWaySize = 4096, kWays = 8;
+  return kWaySize / std::clamp(step & -step, kLine, kWaySize) * kWays;
+}
+
+// A block is as wide as the pixels that fill a cache line, or three, so that lines are used up at once. Fewer rows of
+// the destination are kinder to the memory, where the lines of so many source rows stay in the cache until they are
+// used up. Blocks follow each other down the source, which is along the rows of the destination.
+constexpr s64 kBlockRows = 64;
+template <int P>
+s64 blockColumns(s64 srcStep) {
+  if (P == 6 && linesOfColumn(srcStep) > kBlockRows / 2) return 48 / P;
+  return (P % 3 == 0 ? 192 : 64) / P;
+}
+
+// Rows whose tiles are walked along the source before the next ones: their lines take half of the cache's places,
+// unless the first tile uses up its lines.
+template <int P, class Tile>
+s64 stripRows(s64 srcStep) {
+  constexpr s64 kSpan = Tile::kRows * kGroups, kAll = 2 * kBlockRows;
+  if (Tile::kColumns * P >= 64) return kAll;
+  return std::max(linesOfColumn(srcStep) / 2 / kSpan * kSpan, kSpan);
+}
+
 // Columns [x0, x1) of rows [y0, y1) of an image that is `width` pixels wide. Tiles at the ends overlap their
-// neighbours.
+// neighbours. The image is a copy, which no store can change: nothing is loaded again.
 template <int P, bool Keeps>
-void transposeBlock(const Image& image, s64 x0, s64 x1, s64 y0, s64 y1, s64 width) {
+void transposeBlock(const Image image, s64 x0, s64 x1, s64 y0, s64 y1, s64 width) {
   using Tile = Tile<P, Keeps>;
   constexpr s64 kSpan = Tile::kRows * kGroups;
   // A chunk of 12 bytes of pixels needs 16 bytes of a row.
@@ -138,28 +167,27 @@ void transposeBlock(const Image& image, s64 x0, s64 x1, s64 y0, s64 y1, s64 widt
     return pixelByPixel<P, Keeps>(image, x0, x1, y0, y1);
   }
   const s64 lastY = std::max(y1 - kSpan, y0), lastApart = y1 - Tile::kRows - lastY;
-  for (s64 x = x0; x < x1; x += Tile::kColumns) {
-    const s64 column = std::min(x, x1 - Tile::kColumns);
-    s64 y = y0;
-    for (; y + kSpan <= y1; y += kSpan) Tile::move(image, column, y, Tile::kRows, width);
-    if (y < y1) Tile::move(image, column, lastY, lastApart, width);
+  const s64 strip = stripRows<P, Tile>(image.srcStep);
+  for (s64 top = y0; top < y1; top += strip) {
+    const s64 bottom = std::min(top + strip, y1);
+    for (s64 x = x0; x < x1; x += Tile::kColumns) {
+      const s64 column = std::min(x, x1 - Tile::kColumns);
+      s64 y = top;
+      for (; y + kSpan <= bottom; y += kSpan) Tile::move(image, column, y, Tile::kRows, width);
+      if (y < bottom) Tile::move(image, column, lastY, lastApart, width);
+    }
   }
 }
-
-// A block is as wide as the pixels that fill whole cache lines. Blocks follow each other down the source, which is
-// along the rows of the destination.
-template <int P>
-constexpr s64 kBlockColumns = (P % 3 == 0 ? 192 : 64) / P;
-constexpr s64 kBlockRows = 64;
 
 template <int P, bool Keeps>
 void transpose(const TransposeCall& call) {
   const Image image = {call.src, call.srcStep, call.dst, call.dstStep};
   if (call.inOrder) return pixelByPixel<P, Keeps>(image, 0, call.width, 0, call.height);
+  const s64 columns = blockColumns<P>(call.srcStep);
   // A rest shorter than a block joins the last one.
   const auto end = [](s64 start, s64 n, s64 size) { return n - start < 2 * size ? n : start + size; };
   for (s64 x = 0, nextX = 0; x < call.width; x = nextX) {
-    nextX = end(x, call.width, kBlockColumns<P>);
+    nextX = end(x, call.width, columns);
     for (s64 y = 0, nextY = 0; y < call.height; y = nextY) {
       nextY = end(y, call.height, kBlockRows);
       transposeBlock<P, Keeps>(image, x, nextX, y, nextY, call.width);

@@ -146,9 +146,12 @@ public:
   Transform(const Spec& spec, const Plan& plan)
       : spec_(spec), plan_(plan), positions_(spec.table<s32>(plan.positions)) {}
 
-  // Transforms a sequence of plan.length elements. src is the tile itself or apart from it.
+  // Transforms a sequence of plan.length elements. src is the tile itself or apart from it. The tile has room for what
+  // tileElements() in plan.cpp says.
   void run(const f32* src, f32* tile) const {
-    if (plan_.chirp != 0) {
+    if (plan_.method == Method::kRotation) {
+      rotate(src, tile);
+    } else if (plan_.method == Method::kChirp) {
       convolve(src, tile);
     } else if (plan_.passCount == 0) {
       storeElement(tile, loadElement<V>(src));
@@ -214,6 +217,24 @@ private:
     const auto& passes = kPasses<V>[plan_.radix[level]];
     const bool last = level + 1 == plan_.passCount;
     (last ? passes.last : passes.inTime)(tile, tile, blockSize, blocks, spec_.table<fc32>(plan_.twiddles[level]));
+  }
+
+  // The correlation with the rotated roots. Its input and first spectrum lie behind the tile's first plan.length
+  // elements, where output 0 remains; the other outputs are those of the second transform.
+  void rotate(const f32* src, f32* tile) const {
+    const s64 n = plan_.size;
+    f32* const apart = tile + plan_.length * kElement<V>;
+    const s32* powers = spec_.table<s32>(plan_.powers);
+    const s32* order = spec_.table<s32>(plan_.order);
+    const Complex<V> first = loadElement<V>(src);
+    for (s64 r = 0; r < n; ++r) storeElement(apart + r * kElement<V>, loadElement<V>(src + powers[r] * kElement<V>));
+    inFrequency(0, apart, apart, n, 1);
+    for (s64 k = 0; k < n; ++k) {
+      storeElement(tile + k * kElement<V>, loadElement<V>(apart + order[k] * kElement<V>) * factor(plan_.filter, k));
+    }
+    storeElement(apart, loadElement<V>(apart) + first);  // the sum of all inputs
+    storeElement(tile, loadElement<V>(tile) + first);    // adds the first input to each of the others
+    inFrequency(0, tile, tile, n, 1);
   }
 
   // The convolution with the chirp. Between the two transforms real and imaginary parts change places, which turns the

@@ -90,6 +90,58 @@ s64 convolutionSize(s64 least) {
   return bestSize;
 }
 
+bool isPrime(s64 n) {
+  for (s64 d = 2; d * d <= n; ++d) {
+    if (n % d == 0) return false;
+  }
+  return n > 1;
+}
+
+s64 powerModulo(s64 base, s64 exponent, s64 modulus) {
+  s64 power = 1;
+  for (; exponent > 0; exponent /= 2) {
+    if (exponent % 2 == 1) power = power * base % modulus;
+    base = base * base % modulus;
+  }
+  return power;
+}
+
+// The smallest number whose powers reach 1 after prime - 1 steps and not before.
+s64 primitiveRoot(s64 prime) {
+  for (s64 g = 2;; ++g) {
+    s64 rest = prime - 1;
+    bool isRoot = true;
+    for (s64 q = 2; rest > 1 && isRoot; ++q) {
+      if (rest % q != 0) continue;
+      isRoot = powerModulo(g, (prime - 1) / q, prime) != 1;
+      while (rest % q == 0) rest /= q;
+    }
+    if (isRoot) return g;
+  }
+}
+
+// How a length is transformed: the passes, or those of the size that stands for it.
+struct Choice {
+  Method method;
+  s64 size;
+  Factors factors;
+};
+
+Choice choose(s64 length) {
+  const Factors own = factorsOf(length);
+  if (own.cost < INFINITY) return {Method::kPasses, length, own};
+  const Factors rotation = factorsOf(length - 1);
+  if (rotation.cost < INFINITY && isPrime(length)) return {Method::kRotation, length - 1, rotation};
+  const s64 size = convolutionSize(2 * length - 1);
+  return {Method::kChirp, size, factorsOf(size)};
+}
+
+// Room that a transform needs, its input and output included.
+s64 tileElements(s64 length) {
+  const Choice choice = choose(length);
+  return choice.method == Method::kRotation ? 2 * length - 1 : std::max(length, choice.size);
+}
+
 // ---- The block ----
 
 // Tables are reserved one after the other behind the record; without a base they are only counted.
@@ -151,7 +203,7 @@ void transformExactly(const Plan& plan, const Root* roots, Root* x) {
     const s64 radix = plan.radix[pass], part = blockSize / radix, turns = plan.size / blockSize;
     for (s64 i = 0; i < plan.size; ++i) {
       if (i % blockSize >= part) continue;  // i is the first point of a butterfly
-      Root in[kLargestButterfly];           // chirps choose sizes of small radices
+      Root in[kLargestRadix];
       for (s64 r = 0; r < radix; ++r) in[r] = x[i + r * part];
       for (s64 q = 0; q < radix; ++q) {
         Root sum = {0, 0};
@@ -187,39 +239,69 @@ void writeChirp(const Plan& plan, Block& block, void* init) {
   for (s64 k = 0; k < size; ++k) store(filter + k, {x[k].re * scale, x[k].im * scale});
 }
 
-s64 initBytes(const Plan& plan) { return plan.chirp == 0 ? 0 : 2 * s64{sizeof(Root)} * plan.size; }
+// y_m = w^(g^m), transformed, read backwards and divided by the size (see spec.h).
+void writeRotation(const Plan& plan, Block& block, void* init) {
+  const s64 prime = plan.length, size = plan.size, g = primitiveRoot(prime);
+  Root* x = static_cast<Root*>(init);
+  Root* roots = x + size;
+  s32* powers = block.table<s32>(plan.powers);
+  s32* order = block.table<s32>(plan.order);
+  s32* positions = block.table<s32>(plan.positions);
+  positions[0] = static_cast<s32>(prime);
+  for (s64 m = 0, power = 1; m < size; ++m, power = power * g % prime) {
+    powers[m] = static_cast<s32>(power);
+    order[m] = static_cast<s32>(positionOf(plan, m));
+    positions[power] = order[m];
+    x[m] = rootOf(power, prime);
+    roots[m] = rootOf(m, size);
+  }
+  transformExactly(plan, roots, x);
+  fc32* filter = block.table<fc32>(plan.filter);
+  for (s64 k = 0; k < size; ++k) {
+    const Root y = x[order[(size - k) % size]];
+    store(filter + k, {y.re / static_cast<f64>(size), y.im / static_cast<f64>(size)});
+  }
+}
+
+s64 initBytes(const Plan& plan) { return plan.method == Method::kPasses ? 0 : 2 * s64{sizeof(Root)} * plan.size; }
+
+void writePlan(const Plan& plan, Block& block, void* init) {
+  writeTwiddles(plan, block);
+  s32* positions = block.table<s32>(plan.positions);
+  if (plan.method == Method::kRotation) {
+    writeRotation(plan, block, init);
+  } else {
+    // The way back of a convolution restores the natural order.
+    const bool isChirp = plan.method == Method::kChirp;
+    for (s64 k = 0; k < plan.length; ++k) positions[k] = static_cast<s32>(isChirp ? k : positionOf(plan, k));
+    if (isChirp) writeChirp(plan, block, init);
+  }
+  positions[plan.length] = positions[0];
+}
 
 Plan makePlan(s64 length, Block& block, void* init) {
+  const Choice choice = choose(length);
   Plan plan = {};
-  Factors factors = factorsOf(length);
-  const bool isSmooth = factors.cost < INFINITY;
-  const s64 size = isSmooth ? length : convolutionSize(2 * length - 1);
-  if (!isSmooth) factors = factorsOf(size);
-
   plan.length = static_cast<s32>(length);
-  plan.size = static_cast<s32>(size);
-  plan.passCount = factors.count;
-  s64 blockSize = size;
-  for (int pass = 0; pass < factors.count; ++pass) {
-    const s64 radix = factors.radix[pass];
-    plan.radix[pass] = factors.radix[pass];
+  plan.method = choice.method;
+  plan.size = static_cast<s32>(choice.size);
+  plan.passCount = choice.factors.count;
+  s64 blockSize = choice.size;
+  for (int pass = 0; pass < choice.factors.count; ++pass) {
+    const s64 radix = choice.factors.radix[pass];
+    plan.radix[pass] = choice.factors.radix[pass];
     blockSize /= radix;
     const s64 roots = radix > kLargestButterfly ? radix : 0;
     plan.twiddles[pass] = block.reserve((roots + (blockSize > 1 ? blockSize * (radix - 1) : 0)) * s64{sizeof(fc32)});
   }
   plan.positions = block.reserve((length + 1) * s64{sizeof(s32)});
-  if (!isSmooth) {
-    plan.chirp = block.reserve(length * s64{sizeof(fc32)});
-    plan.filter = block.reserve(size * s64{sizeof(fc32)});
+  if (plan.method != Method::kPasses) plan.filter = block.reserve(choice.size * s64{sizeof(fc32)});
+  if (plan.method == Method::kChirp) plan.chirp = block.reserve(length * s64{sizeof(fc32)});
+  if (plan.method == Method::kRotation) {
+    plan.powers = block.reserve(choice.size * s64{sizeof(s32)});
+    plan.order = block.reserve(choice.size * s64{sizeof(s32)});
   }
-  if (block.writes()) {
-    writeTwiddles(plan, block);
-    // The way back of a convolution restores the natural order.
-    s32* positions = block.table<s32>(plan.positions);
-    for (s64 k = 0; k < length; ++k) positions[k] = static_cast<s32>(isSmooth ? positionOf(plan, k) : k);
-    positions[length] = positions[0];
-    if (!isSmooth) writeChirp(plan, block, init);
-  }
+  if (block.writes()) writePlan(plan, block, init);
   return plan;
 }
 
@@ -248,14 +330,10 @@ s64 lineRows(s64 n) {
   return divisor >= 2 * kMostLanes ? divisor : 1;
 }
 
-s64 sizeOfPasses(s64 length) { return factorsOf(length).cost < INFINITY ? length : convolutionSize(2 * length - 1); }
-
 // Products of two sizes pass 64 bits as bytes. They stop where no size can be reported any more.
 s64 complexBytes(s64 points) { return std::min(points, s64{1} << 40) * kComplexBytes; }
 
-s64 imageBytes(const Spec& spec) {
-  return complexBytes(s64{spec.width} * spec.height) / (spec.isReal != 0 ? 2 : 1);
-}
+s64 imageBytes(const Spec& spec) { return complexBytes(s64{spec.width} * spec.height) / (spec.isReal != 0 ? 2 : 1); }
 
 void shapeLine(Spec& spec) {
   const s64 length = std::max(spec.width, spec.height);
@@ -268,7 +346,7 @@ void shapeLine(Spec& spec) {
     spec.gridWidth = static_cast<s32>(points);
     spec.gridHeight = 1;
     spec.stripBytes = 0;
-    spec.tileBytes = alignUp(sizeOfPasses(points) * kComplexBytes);
+    spec.tileBytes = alignUp(tileElements(points) * kComplexBytes);
     return;
   }
   // Columns of the grid are transformed first. They become the rows of the result.
@@ -287,7 +365,7 @@ void shapeImage(Spec& spec) {
   const bool isReal = spec.isReal != 0;
   spec.gridWidth = static_cast<s32>(isReal ? (width + 1) / 2 : width);
   spec.gridHeight = static_cast<s32>(height);
-  const s64 longest = std::max(sizeOfPasses(width), sizeOfPasses(height));
+  const s64 longest = std::max(tileElements(width), tileElements(height));
   const s64 paddedWidth = (spec.gridWidth + kMostLanes - 1) / kMostLanes * kMostLanes;
   spec.stripBytes = alignUp(complexBytes(paddedWidth * height));
   spec.tileBytes = alignUp(kMostLanes * longest * kComplexBytes);

@@ -9,21 +9,35 @@ namespace rnx::fft {
 inline constexpr int kMaxPasses = 30;  // radix 2 alone reaches 2^28
 
 inline constexpr int kLargestButterfly = 8;  // radices up to here are unrolled
-inline constexpr int kLargestRadix = 61;     // larger primes are left to the chirp
+inline constexpr int kLargestRadix = 61;     // larger primes have methods of their own
 
-// The plan of one-dimensional transforms of one length. A length whose prime factors are all small is transformed by
-// passes of small radices. Any other becomes a circular convolution with a chirp, whose size is chosen freely:
+// How a length is transformed.
+enum class Method : s32 {
+  kPasses,    // its prime factors are all small
+  kRotation,  // a larger prime p, where those of p - 1 are small
+  kChirp      // any other
+};
+
+// The plan of one-dimensional transforms of one length.
+//
+// Rotation: g^0, g^1 ... g^(p-2) modulo p, for a primitive root g, are all numbers from 1 to p - 1. In this order the
+// transform is a circular correlation of p - 1 points, done by transforms of that size:
+//   X_(g^m) = x_0 + sum over r of x_(g^r) w^(g^(r+m)),   w = exp(-2 pi i / p)
+// Chirp: a circular convolution whose size is chosen freely:
 //   X_k = c_k * sum over j of (x_j c_j) * conj(c_(k-j)),   c_j = exp(-pi i j^2 / length)
 struct Plan {
   s32 length;
-  s32 size;  // of the passes: length, or at least 2 length - 1
+  Method method;
+  s32 size;  // of the passes: length; length - 1; or at least 2 length - 1
   s32 passCount;
   s32 radix[kMaxPasses];
   u32 twiddles[kMaxPasses];  // offset per pass: factors of outputs 1 ... radix - 1, for each butterfly of a block;
                              // before them, for radices that are not unrolled, the roots of unity
   u32 positions;             // s32 for outputs 0 ... length, where the passes leave them; the last is the first again
-  u32 chirp;                 // c_j, or 0 where the length needs none
-  u32 filter;                // transform of the conjugate chirp over size, in the order of the passes
+  u32 filter;                // what spectra are multiplied by, size numbers: of rotations in natural order, of chirps
+                             // in the order of the passes
+  u32 powers, order;         // kRotation: s32 g^r modulo p, and where the passes leave output k of their own
+  u32 chirp;                 // kChirp: c_j
 };
 
 // How the image is walked.

@@ -4,6 +4,7 @@
 // With neighbours p0, p1 and weight w (16384 = 1) both passes compute
 //
 //   v = p0 * (16384 - w) + p1 * w,   R(v) = (v + ((v >> 14) & 1) + 8192) >> 14
+#include "geom/resize_halve.h"
 #include "geom/resize_rows.h"
 #include "simd/convert.h"
 
@@ -352,37 +353,15 @@ void linearStrip(const LinearCall& call, s64 first, s64 columns) {
   }
 }
 
-// ---- Half the size in both directions: all weights are one half, and R is the mean rounded up ----
-
-template <int C>
-RNX_INLINE Vec<u8> halved(const u8* above, const u8* below) {
-  return C == 1 ? squareMeans(above, below) : squareMeans4(above, below);
-}
-template <int C>
-RNX_INLINE Vec<u16> halved(const u16* above, const u16* below) {
-  return squareMeans(above, below);
-}
-
-template <class T, int C>
-void halve(const LinearCall& call) {
-  constexpr s64 L = Vec<T>::kLanes;
-  const s64 n = call.tile.columns.count * C;
-  for (s64 y = 0; y < call.tile.rows.count; ++y) {
-    const T* above = rowAt(static_cast<const T*>(call.tile.src), 2 * y, call.tile.srcStep);
-    const T* below = core::at(above, call.tile.srcStep);
-    T* dst = rowAt(static_cast<T*>(call.tile.dst), y, call.tile.dstStep);
-    for (s64 i = 0; i + L <= n; i += L) halved<C>(above + 2 * i, below + 2 * i).store(dst + i);
-    if (n % L != 0) halved<C>(above + 2 * (n - L), below + 2 * (n - L)).store(dst + n - L);
-  }
-}
+// ---- Choice ----
 
 template <class Kind, int C>
 void linear(const LinearCall& call) {
   using T = typename Kind::Element;
   const s64 columns = call.tile.columns.count;
-  if constexpr (C == 1 ? std::is_unsigned_v<T> : C == 4 && sizeof(T) == 1) {
+  if constexpr (kCanHalve<T, C>) {
     const bool halves = call.tile.columns.halves && call.tile.rows.halves;
-    if (halves && columns * C >= Vec<T>::kLanes) return halve<T, C>(call);
+    if (halves && columns >= kLeastHalved<T, C>) return halve<T, C>(call.tile);
   }
   forEachStrip(columns, kStripElements<T> / C, [&](s64 first, s64 count) { linearStrip<Kind, C>(call, first, count); });
 }

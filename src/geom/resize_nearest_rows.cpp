@@ -43,8 +43,8 @@ void halveColumns(const ResizeCall& call) {
   forEachRow<sizeof(T)>(call, 0, n * s64{sizeof(T)}, [=](const u8* srcRow, u8* dstRow) {
     const T* src = reinterpret_cast<const T*>(srcRow);
     T* dst = reinterpret_cast<T*>(dstRow);
-    for (s64 i = 0; i + L <= n; i += L) everySecond(src + 2 * i).store(dst + i);
-    if (n % L != 0) everySecond(src + 2 * (n - L)).store(dst + n - L);
+    for (s64 i = 0; i + L < n; i += L) firstOfPairs(src + 2 * i).store(dst + i);
+    everySecond(src + 2 * (n - L)).store(dst + n - L);
   });
 }
 

@@ -12,6 +12,15 @@ namespace {
 
 // clang-format off
 #if RNX_VECTOR_BYTES == 32
+// Packs work on each half of a register; afterwards the quarters (of two packs, the eighths) stand in this order.
+RNX_INLINE Int inOrder2(Int v) { return _mm256_permute4x64_epi64(v, 0xd8); }
+RNX_INLINE Int inOrder4(Int v) { return _mm256_permutevar8x32_epi32(v, _mm256_setr_epi32(0, 4, 1, 5, 2, 6, 3, 7)); }
+#else
+RNX_INLINE Int inOrder2(Int v) { return v; }
+RNX_INLINE Int inOrder4(Int v) { return v; }
+#endif
+
+#if RNX_VECTOR_BYTES == 32
 RNX_INLINE __m128i lowHalf(Int v) { return _mm256_castsi256_si128(v); }
 RNX_INLINE __m128i highHalf(Int v) { return _mm256_extracti128_si256(v, 1); }
 
@@ -107,6 +116,16 @@ RNX_INLINE Block<W, N> widenTo(const Block<T, N>& block) {
   }
 }
 
+// v * 257: every byte twice.
+template <int N>
+RNX_INLINE Block<u16, N> repeatBytes(const Block<u8, N>& block) {
+  return spreadAll<u16>(block, [](Vec<u8> v) RNX_INLINE_LAMBDA {
+    const Int halves = inOrder2(v.bits());
+    return Block<u16, Vec<u8>::kLanes>{
+        {Vec<u16>::of(RNX_MM(unpacklo_epi8)(halves, halves)), Vec<u16>::of(RNX_MM(unpackhi_epi8)(halves, halves))}};
+  });
+}
+
 // N elements of S in lanes of W, two or four times as large: widened while they are loaded, which saves taking vectors
 // apart.
 template <class W, class S, int N>
@@ -136,15 +155,6 @@ using SourceBlock = typename SourceBlockOf<S, W, N>::Type;
 // ---- Two or four vectors become one, saturated ----
 
 // clang-format off
-#if RNX_VECTOR_BYTES == 32
-// Packs work on each half of a register; afterwards the quarters (of two packs, the eighths) stand in this order.
-RNX_INLINE Int inOrder2(Int v) { return _mm256_permute4x64_epi64(v, 0xd8); }
-RNX_INLINE Int inOrder4(Int v) { return _mm256_permutevar8x32_epi32(v, _mm256_setr_epi32(0, 4, 1, 5, 2, 6, 3, 7)); }
-#else
-RNX_INLINE Int inOrder2(Int v) { return v; }
-RNX_INLINE Int inOrder4(Int v) { return v; }
-#endif
-
 template <class D> RNX_INLINE Int pack16(Vec<s16> a, Vec<s16> b) {
   return std::is_signed_v<D> ? RNX_MM(packs_epi16)(a.bits(), b.bits()) : RNX_MM(packus_epi16)(a.bits(), b.bits());
 }

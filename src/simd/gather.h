@@ -86,6 +86,20 @@ RNX_INLINE Vec<u32> everySecond(const u32* p) {
   return Vec<u32>::of(inMemoryOrder(reinterpret_cast<Int>(RNX_MM(shuffle_ps)(even.raw, odd.raw, 0xD8))));
 }
 
+// The same from two whole vectors, whose last element is not wanted.
+RNX_INLINE Vec<u8> firstOfPairs(const u8* p) {
+  const auto even = [&](int k) { return Vec<u8>::load(p + k * kBytes).as<u16>() & Vec<u16>::splat(0xFF); };
+  return Vec<u8>::of(inMemoryOrder(RNX_MM(packus_epi16)(even(0).bits(), even(1).bits())));
+}
+RNX_INLINE Vec<u16> firstOfPairs(const u16* p) {
+  const auto even = [&](int k) { return Vec<u16>::load(p + k * Vec<u16>::kLanes).as<u32>() & Vec<u32>::splat(0xFFFF); };
+  return Vec<u16>::of(inMemoryOrder(RNX_MM(packus_epi32)(even(0).bits(), even(1).bits())));
+}
+RNX_INLINE Vec<u32> firstOfPairs(const u32* p) {
+  const auto part = [&](int k) { return Vec<f32>::load(reinterpret_cast<const f32*>(p + k * Vec<u32>::kLanes)).raw; };
+  return Vec<u32>::of(inMemoryOrder(reinterpret_cast<Int>(RNX_MM(shuffle_ps)(part(0), part(1), 0x88))));
+}
+
 // One vector of means of two by two pixels: (a + b + 1) >> 1 of the pairs (0, 1), (2, 3), ... of both rows, then the same
 // of the two.
 RNX_INLINE Vec<u8> squareMeans(const u8* above, const u8* below) {

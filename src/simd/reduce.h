@@ -138,16 +138,16 @@ RNX_INLINE Vec<u64> sumOfBytes(Vec<u8> v) { return Vec<u64>::of(RNX_MM(sad_epu8)
 RNX_INLINE Vec<u32> sumOfSquares(Vec<u16> v) { return Vec<u32>::of(RNX_MM(madd_epi16)(v.bits(), v.bits())); }
 RNX_INLINE Vec<u32> sumOfSquares(Vec<s16> v) { return Vec<u32>::of(RNX_MM(madd_epi16)(v.bits(), v.bits())); }
 
-// ---- Two doubles, in the builds of both widths: for sums whose order is promised ----
-
-struct TwoDoubles {
-  __m128d raw;
-
-  static RNX_INLINE TwoDoubles load(const f32* p) {  // of two floats
-    return {_mm_cvtps_pd(_mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p))))};
-  }
-};
-RNX_INLINE TwoDoubles magnitude(TwoDoubles v) { return {_mm_andnot_pd(_mm_set1_pd(-0.0), v.raw)}; }
+// Two floats of each of as many rows as a vector holds pairs of doubles: for sums whose order is promised.
+inline constexpr int kRowsOfPairs = kBytes / 16;
+RNX_INLINE Vec<f64> pairsAsDouble(const f32* p, [[maybe_unused]] s64 step) {
+  const auto pair = [](const f32* a) RNX_INLINE_LAMBDA { return _mm_loadl_epi64(reinterpret_cast<const __m128i*>(a)); };
+#if RNX_VECTOR_BYTES == 32
+  return {_mm256_cvtps_pd(_mm_castsi128_ps(_mm_unpacklo_epi64(pair(p), pair(core::at(p, step)))))};
+#else
+  return {_mm_cvtps_pd(_mm_castsi128_ps(pair(p)))};
+#endif
+}
 
 }  // namespace
 }  // namespace rnx::simd

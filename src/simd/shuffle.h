@@ -80,6 +80,14 @@ RNX_INLINE __m128i loadStart(const u8* p) {
   return loadChunk(p);
 }
 template <int Bytes>
+RNX_INLINE void storeStart(u8* p, __m128i v) {
+  if constexpr (Bytes == 1) *p = static_cast<u8>(_mm_cvtsi128_si32(v));
+  if constexpr (Bytes == 2) _mm_storeu_si16(p, v);
+  if constexpr (Bytes == 4) _mm_storeu_si32(p, v);
+  if constexpr (Bytes == 8) _mm_storel_epi64(reinterpret_cast<__m128i*>(p), v);
+  if constexpr (Bytes == 16) storeChunk(p, v);
+}
+template <int Bytes>
 RNX_INLINE Vec<u8> loadStarts(const u8* p, [[maybe_unused]] s64 apart) {
 #if RNX_VECTOR_BYTES == 32
   return bothGroups(loadStart<Bytes>(p), loadStart<Bytes>(p + apart));
@@ -142,6 +150,12 @@ RNX_INLINE void transposeChunks(Vec<u8>* rows) {
     RNX_UNROLL
     for (int i = 0; i < kRows; ++i) rows[i] = next[i];
   }
+}
+
+// The chunks from byte Count on, continued with the next ones.
+template <int Count>
+RNX_INLINE Vec<u8> nextBytes(Vec<u8> chunks, Vec<u8> next) {
+  return Vec<u8>::of(RNX_MM(alignr_epi8)(next.bits(), chunks.bits(), Count));
 }
 
 // The first Count bytes of the chunks of a, the rest of b. Count is even.
@@ -227,10 +241,10 @@ RNX_INLINE __m128i turnChunk(__m128i v) {
 
 // ---- Rows ----
 
-// Walks the groups of a row of n >= group pixels; `group` is a power of two. `f.compute<adjacent>(x, apart)` reads and computes the group at pixel
-// x and the one `apart` pixels further, `f.store<adjacent, stream>(x, apart, result)` writes them; adjacent: the second
-// group follows the first. The groups at the end overlap ones that are written anyway; they are computed before
-// anything is written, which makes that right in place too.
+// Walks the groups of a row of n >= group pixels; `group` is a power of two. `f.compute<adjacent>(x, apart)` reads and
+// computes the group at pixel x and the one `apart` pixels further, `f.store<adjacent, stream>(x, apart, result)`
+// writes them; adjacent: the second group follows the first. The groups at the end overlap ones that are written
+// anyway; they are computed before anything is written, which makes that right in place too.
 template <class F>
 RNX_INLINE void forEachGroup(s64 n, int group, const F& f) {
   const s64 span = s64{group} * kGroups;

@@ -19,6 +19,13 @@ constexpr int kAddsPerRound = kRoundVectors / kApart<C>;
 
 // ---- Terms: what is summed of an element, or of two ----
 
+// At any address, for steps need not be whole elements.
+inline f64 elementAsDouble(const f32* p, s64 i) {
+  f32 v;
+  __builtin_memcpy(&v, p + i, sizeof(v));
+  return f64{v};
+}
+
 struct OfImage {
   template <class T>
   static RNX_INLINE auto magnitude(Vec<T> v) {
@@ -29,8 +36,8 @@ struct OfImage {
     }
   }
   static RNX_INLINE Vec<f32> value(Vec<f32> v) { return v; }
-  static RNX_INLINE TwoDoubles exact(const f32* v, const f32*) { return TwoDoubles::load(v); }
-  static f64 exact(const f32* v, const f32*, s64 i) { return f64{simd::loadOne(v + i)}; }
+  static RNX_INLINE Vec<f64> exactPairs(const f32* v, s64 step, const f32*, s64) { return pairsAsDouble(v, step); }
+  static f64 exact(const f32* v, const f32*, s64 i) { return elementAsDouble(v, i); }
 };
 
 struct OfDifference {
@@ -43,10 +50,10 @@ struct OfDifference {
     }
   }
   static RNX_INLINE Vec<f32> value(Vec<f32> a, Vec<f32> b) { return a - b; }
-  static RNX_INLINE TwoDoubles exact(const f32* a, const f32* b) {
-    return {TwoDoubles::load(a).raw - TwoDoubles::load(b).raw};
+  static RNX_INLINE Vec<f64> exactPairs(const f32* a, s64 aStep, const f32* b, s64 bStep) {
+    return pairsAsDouble(a, aStep) - pairsAsDouble(b, bStep);
   }
-  static f64 exact(const f32* a, const f32* b, s64 i) { return f64{simd::loadOne(a + i)} - f64{simd::loadOne(b + i)}; }
+  static f64 exact(const f32* a, const f32* b, s64 i) { return elementAsDouble(a, i) - elementAsDouble(b, i); }
 };
 
 // ---- Totals by channel of lanes that stand for every stride-th element ----
@@ -326,6 +333,7 @@ private:
 // ---- Operations: from an element to a term ----
 
 RNX_INLINE Vec<f32> absolute(Vec<f32> v) { return (v.as<s32>() & Vec<s32>::splat(INT32_MAX)).as<f32>(); }
+RNX_INLINE Vec<f64> absolute(Vec<f64> v) { return (v.as<s64>() & Vec<s64>::splat(INT64_MAX)).as<f64>(); }
 
 // Elements with their sign moved into the unsigned range.
 template <class T>
@@ -457,57 +465,60 @@ void reduce(const ReduceCall<T>& call) {
 
 struct ExactSum {
   static void add(f64& total, f64 v) { total += v; }
-  static RNX_INLINE TwoDoubles term(TwoDoubles v) { return v; }
-  static void join(f64& total, f64 part) { total += part; }
+  static RNX_INLINE Vec<f64> term(Vec<f64> v) { return v; }
 };
 struct ExactAbsolutes : ExactSum {
   static void add(f64& total, f64 v) { total += __builtin_fabs(v); }
-  static RNX_INLINE TwoDoubles term(TwoDoubles v) { return magnitude(v); }
+  static RNX_INLINE Vec<f64> term(Vec<f64> v) { return absolute(v); }
 };
 struct ExactSquares : ExactSum {
   static void add(f64& total, f64 v) { total += v * v; }
-  static RNX_INLINE TwoDoubles term(TwoDoubles v) { return {v.raw * v.raw}; }
+  static RNX_INLINE Vec<f64> term(Vec<f64> v) { return v * v; }
 };
 
-// As many rows side by side as keep the adders busy; each has its own totals, of the even and of the odd pixels.
-template <class Op, class Of, int C, int kRows>
-void addRowsExactly(const ReduceCall<f32>& call, const f32* first, const f32* second, f64* totals) {
-  TwoDoubles apart[kRows][C] = {};
+// kVectors vectors of rows side by side, as many as keep the adders busy: each row has its own totals, of the even and
+// of the odd pixels. With one row that is all there is, the further rows of its vector are that row again.
+template <class Op, class Of, int C, int kVectors, bool kOneRow>
+void addRowsExactly(const ReduceCall<f32>& call, s64 y, f64* totals) {
+  constexpr int kRows = kOneRow ? 1 : kVectors * kRowsOfPairs;
+  const f32 *first = core::at(call.first, y * call.firstStep), *second = core::at(call.second, y * call.secondStep);
+  const s64 firstStep = kOneRow ? 0 : call.firstStep, secondStep = kOneRow ? 0 : call.secondStep;
+  Vec<f64> apart[kVectors][C] = {};
   s64 i = 0;
   for (; i + 2 * C <= call.width; i += 2 * C) {
     RNX_UNROLL
-    for (int r = 0; r < kRows; ++r) {
+    for (int r = 0; r < kVectors; ++r) {
+      const f32* a = core::at(first, r * kRowsOfPairs * firstStep, i);
+      const f32* b = core::at(second, r * kRowsOfPairs * secondStep, i);
       RNX_UNROLL
       for (int k = 0; k < C; ++k) {
-        const auto* a = core::at(first, r * call.firstStep, i + 2 * k);
-        const auto* b = core::at(second, r * call.secondStep, i + 2 * k);
-        apart[r][k].raw += Op::term(Of::exact(a, b)).raw;
+        const Vec<f64> terms = Of::exactPairs(core::at(a, 0, 2 * k), firstStep, core::at(b, 0, 2 * k), secondStep);
+        apart[r][k] = apart[r][k] + Op::term(terms);
       }
     }
   }
+  f64 lanes[kVectors][C][2 * kRowsOfPairs];
+  RNX_UNROLL
+  for (int r = 0; r < kVectors; ++r) {
+    RNX_UNROLL
+    for (int k = 0; k < C; ++k) apart[r][k].store(lanes[r][k]);
+  }
   for (int r = 0; r < kRows; ++r) {
-    const f32 *a = core::at(first, r * call.firstStep), *b = core::at(second, r * call.secondStep);
+    const f32 *a = core::at(first, r * firstStep), *b = core::at(second, r * secondStep);
     f64 sums[2 * C];
-    __builtin_memcpy(sums, apart[r], sizeof(sums));
+    for (int k = 0; k < 2 * C; ++k) sums[k] = lanes[r / kRowsOfPairs][k / 2][r % kRowsOfPairs * 2 + k % 2];
     for (s64 j = i; j < call.width; ++j) Op::add(sums[j - i], Of::exact(a, b, j));
-    for (int c = 0; c < C; ++c) Op::join(totals[c], sums[c] + sums[C + c]);
+    for (int c = 0; c < C; ++c) totals[c] += sums[c] + sums[C + c];
   }
 }
 
 template <class Op, class Of, int C>
 void reduceExactly(const ReduceCall<f32>& call) {
-  constexpr int kRows = C == 1 ? 4 : 1;
+  constexpr int kVectors = C == 1 ? 4 : 1, kRows = kVectors * kRowsOfPairs;
   f64 totals[C] = {};
-  for (s64 y = 0; y < call.height;) {
-    const f32 *first = core::at(call.first, y * call.firstStep), *second = core::at(call.second, y * call.secondStep);
-    if (call.height - y >= kRows) {
-      addRowsExactly<Op, Of, C, kRows>(call, first, second, totals);
-      y += kRows;
-    } else {
-      addRowsExactly<Op, Of, C, 1>(call, first, second, totals);
-      ++y;
-    }
-  }
+  s64 y = 0;
+  for (; y + kRows <= call.height; y += kRows) addRowsExactly<Op, Of, C, kVectors, false>(call, y, totals);
+  for (; y < call.height; ++y) addRowsExactly<Op, Of, C, 1, true>(call, y, totals);
   for (int c = 0; c < C; ++c) call.results[c] = totals[c];
 }
 

@@ -170,6 +170,10 @@ Violations roundModes(const Signature& s) { return numbersOf(s, "round", {-1, 3,
 
 Violations mirrorAxes(const Signature& s) { return numbersOf(s, "flip", {-1, 5, INT_MIN, INT_MAX}); }
 
+Violations bitOffsets(const Signature& s) {
+  return numbersOf(s, s.family == "GrayToBin" ? "dst_bit" : "src_bit", {-1, INT_MIN});
+}
+
 Violations channelOrders(const Signature& s) {
   Violations list;
   const bool toFour = s.layout == "C3C4", four = s.layout == "C4" || s.layout == "C4C3";
@@ -292,6 +296,7 @@ constexpr CheckRule kRules[] = {
     {"divisor", -10, zeroDivisors},
     {"round", -213, roundModes},
     {"flip", -22, mirrorAxes},
+    {"bitoffset", -6, bitOffsets},
     {"square", -6, squareSizes},
     {"border", -6, borderSizes},
     {"value_null", -8, nullOfClaim<0>},

@@ -243,7 +243,8 @@ TEST_P(Large, KeepsEnergyAndComesBack) {
   for (size_t i = 0; i < count; ++i) {
     error += std::norm(ref::Number(spectrum[i].re, spectrum[i].im) / n - ref::Number(image[i].re, image[i].im));
   }
-  EXPECT_LE(std::sqrt(error / energy(image)), 1.5 * errorBound(width, height));
+  // Two transforms, whose errors are independent.
+  EXPECT_LE(std::sqrt(error / energy(image)), std::sqrt(2.0) * errorBound(width, height));
 }
 
 TEST_P(Large, ShiftTurnsTheSpectrum) {
@@ -271,8 +272,9 @@ TEST_P(Large, ShiftTurnsTheSpectrum) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Sizes, Large,
-                         testing::Values(RnxiSize{512, 256}, RnxiSize{1000, 135}, RnxiSize{601, 97}, RnxiSize{65536, 1},
-                                         RnxiSize{1, 65537}, RnxiSize{2310, 13}, RnxiSize{7, 4099}));
+                         testing::Values(RnxiSize{512, 256}, RnxiSize{1000, 135}, RnxiSize{601, 397},
+                                         RnxiSize{65536, 1}, RnxiSize{1, 65537}, RnxiSize{2310, 13}, RnxiSize{7, 4099},
+                                         RnxiSize{997, 2}));
 
 // ---- Memory ----
 
