@@ -24,6 +24,15 @@ RNX_INLINE u32 signBits(Vec<M> mask) {
   }
 }
 
+// One byte per element, in the order of packs.
+// clang-format off
+RNX_INLINE Vec<u8> maskBytes(const Mask<u16>* m) { return Vec<u8>::of(RNX_MM(packs_epi16)(m[0].bits(), m[1].bits())); }
+RNX_INLINE Vec<u8> maskBytes(const Mask<u32>* m) {
+  return Vec<u8>::of(RNX_MM(packs_epi16)(RNX_MM(packs_epi32)(m[0].bits(), m[1].bits()),
+                                         RNX_MM(packs_epi32)(m[2].bits(), m[3].bits())));
+}
+// clang-format on
+
 // One bit for each lane of as many vectors as an element has bytes.
 template <class T>
 RNX_INLINE u32 bitsOfMasks(const Mask<T>* masks) {

@@ -20,11 +20,7 @@ constexpr int kAddsPerRound = kRoundVectors / kApart<C>;
 // ---- Terms: what is summed of an element, or of two ----
 
 // At any address, for steps need not be whole elements.
-inline f64 elementAsDouble(const f32* p, s64 i) {
-  f32 v;
-  __builtin_memcpy(&v, p + i, sizeof(v));
-  return f64{v};
-}
+RNX_INLINE f64 elementAsDouble(const f32* p, s64 i) { return f64{simd::loadOne(p + i)}; }
 
 struct OfImage {
   template <class T>
