@@ -24,10 +24,6 @@ if(RNXIP_SANITIZE)
     $<$<COMPILE_LANGUAGE:CXX,C>:-fno-omit-frame-pointer> $<$<COMPILE_LANGUAGE:CXX,C>:-g1>
     # Needs the C++ runtime, which C programs do not have.
     $<$<COMPILE_LANG_AND_ID:CXX,Clang>:-fno-sanitize=function>)
-  if(RNXIP_FUZZ)
-    # Images may lie at any address, which these processors load from; nothing in the library relies on more.
-    add_compile_options($<$<COMPILE_LANGUAGE:CXX,C>:-fno-sanitize=alignment>)
-  endif()
   add_link_options(-fsanitize=${RNXIP_SANITIZE})
   add_compile_definitions(RNXIP_SANITIZED)
 endif()

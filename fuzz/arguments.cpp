@@ -1,7 +1,6 @@
 #include "arguments.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace rnx::fuzz {
 namespace {
@@ -119,7 +118,6 @@ f64 anyFloat(Chooser& choose) {
 }  // namespace
 
 Arena Arguments::arena_;
-bool Arguments::aligned = std::getenv("RNX_ALIGNED") != nullptr;
 
 Arguments::Arguments(const Signature& signature, Chooser& choose, Mood mood)
     : s_(signature), choose_(choose), mood_(mood), call_(signature) {
@@ -234,7 +232,6 @@ void Arguments::chooseStep(size_t index, s64 rowBytes) {
   if (rule >= 215 && rule < 225) step = rule - 220;
   if (rule >= 250) step = kFar[static_cast<size_t>(rule - 250) % std::size(kFar)];
   if (rule == 249 && s_.isLong) step = INT64_MIN + 64;
-  if (aligned) step = step / 16 * 16 + (step > 0 && step % 16 != 0 && step < INT_MAX - 16 ? 16 : 0);
   steps_[index] = step;
 }
 
@@ -372,7 +369,6 @@ void Arguments::overlap() {
     s64 delta = 0;
     if (how >= 100) delta = choose_.between(-70, 70);
     if (how >= 180) delta = root.step * choose_.between(-2, 2) + choose_.between(-3, 3);
-    if (aligned) delta = delta / 16 * 16;
     if (excluded && (delta != 0 || s_.subsystem != "fft")) continue;
     if (s_.has("dstroi") && delta == 0) continue;  // means in place: those forms are exports of their own
     if (std::abs(static_cast<f64>(delta)) > kMostBytes) continue;
@@ -442,11 +438,9 @@ void Arguments::place() {
     const u8 placement = choose_.byte();
     // Images, specs and buffers may lie anywhere, arrays of numbers where their type may.
     const Parameter& p = parameter(operands_[i].parameter);
-    const bool anywhere =
-        (operands_[i].isImage && !aligned) || p.name == "pSpec" || p.name == "pBuffer" || p.role == "meminit";
+    const bool anywhere = operands_[i].isImage || p.name == "pSpec" || p.name == "pBuffer" || p.role == "meminit";
     int where = placement % 4;
     if (where >= 2) where = 2 + (anywhere ? placement / 4 : placement / 64 * 16 + 14);
-    if (aligned && operands_[i].isImage) low = -((-low + 15) / 16 * 16), high = low + (high - low + 15) / 16 * 16;
     Block& block = arena_.open(static_cast<size_t>(high - low), where, choose_.word(2) + i);
     blocks[i] = &block;
     operands_[i].pointer = reinterpret_cast<u8*>(reinterpret_cast<uintptr_t>(block.begin()) - static_cast<u64>(low));

@@ -53,9 +53,6 @@ class Arguments {
 public:
   Arguments(const Signature& signature, Chooser& choose, Mood mood);
 
-  // Images at multiples of their elements only: for a library that is sanitized for alignment. Set by RNX_ALIGNED=1.
-  static bool aligned;
-
   Call& call() { return call_; }
   Arena& arena() { return arena_; }
   void freeze();

@@ -282,7 +282,7 @@ def gallery_page(pictures, output):
 
 def bar_chart(rows):
     """Horizontal bars: how many times as long each other library takes; the line at 1 is ours."""
-    height, left, scale, most = 18, 250, 110, 5.0
+    height, left, scale, most = 18, 330, 110, 5.0
     top, width = 24, left + int(most * scale) + 60
     lines = [f'<svg viewBox="0 0 {width} {top + height * len(rows) + 6}" width="{width}" role="img" '
              'xmlns="http://www.w3.org/2000/svg">']  # fmt: skip
@@ -310,12 +310,14 @@ def charts():
                 table.setdefault((row["row"], row["size"]), {})[row["contestant"]] = float(row["ns"])
         notes = [line[1:].strip() for line in path.read_text().splitlines() if line.startswith("#")]
         parts.append(f"<h2>Figures: {escape(path.stem)}</h2>" + "".join(f"<p>{escape(n)}</p>" for n in notes))
+        sizes = {size for _, size in table}
         peers = sorted({c for cells in table.values() for c in cells} - {"rnx256", "rnx128", "floor"})
         for peer in peers:
             groups = {}
             for (row, size), cells in table.items():
                 if peer in cells and cells.get("rnx256"):
-                    groups.setdefault(row.split()[0], []).append((f"{row}, {size}", cells[peer] / cells["rnx256"]))
+                    label = row if len(sizes) == 1 else f"{row}, {size}"
+                    groups.setdefault(row.split()[0], []).append((label, cells[peer] / cells["rnx256"]))
             if groups:
                 parts.append(f"<h3>Time of {escape(peer)} over ours</h3>"
                              "<p>Right of the line at 1 ours is faster; bars of another colour are where it is not.</p>")  # fmt: skip

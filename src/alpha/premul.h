@@ -1,11 +1,10 @@
 // Alpha premultiplication: by the pixel's own alpha, or by one constant.
 #pragma once
 
-#include <algorithm>
-
 #include "alpha/premul_kernels.h"
 #include "core/checks.h"
 #include "data/copy.h"
+#include "data/fill.h"
 
 namespace rnx::alpha {
 
@@ -116,9 +115,7 @@ RnxStatus premulConstantPlanes(const T* const src[4], int srcStep, T alpha, T* c
   if (core::empty(roi)) return rnxStatusBadSize;
 
   for (int c = 0; c < 3; ++c) premulConstant<T, core::C1>(src[c], srcStep, alpha, dst[c], dstStep, roi);
-  T* row = dst[3];
-  for (int y = 0; y < roi.height; ++y, row = core::at(row, dstStep)) std::fill_n(row, roi.width, alpha);
-  return rnxStatusNoError;
+  return data::set<T, core::C1>(alpha, dst[3], dstStep, roi);
 }
 
 template <class T>
