@@ -78,7 +78,7 @@ int main() {
     threads.emplace_back([&, t] {
       equal[t] = true;
       start.arrive_and_wait();
-      for (int round = 0; round < kRounds; ++round) equal[t] = equal[t] && run(plans, image) == expected;
+      for (int round = 0; round < kRounds; ++round) equal[t] = run(plans, image) == expected && equal[t];
     });
   }
   for (std::thread& thread : threads) thread.join();
