@@ -67,7 +67,7 @@ def split(arguments):
             parts.append("")
         else:
             parts[-1] += character
-    return [part.strip() for part in parts]
+    return [part.strip() for part in parts if part.strip()]
 
 
 def calls_in(code):
