@@ -222,7 +222,8 @@ void Arguments::overlap() {
     if (excluded && (delta != 0 || s_.subsystem != "fft")) continue;
     if (s_.has("dstroi") && delta == 0) continue;  // means in place: those forms are exports of their own
     if (std::abs(static_cast<f64>(delta)) > kMostOperandBytes) continue;
-    if (how % 4 != 3 && o.first == 0 && o.plane < 0) {  // most often with the same step
+    const bool merged = o.rows == 1 && root.rows > 1;              // its rows were counted with the step that it has
+    if (how % 4 != 3 && !merged && o.first == 0 && o.plane < 0) {  // most often with the same step
       o.step = steps_[o.parameter + 1] = root.step;
       if (!o.empty() && o.high() - o.low() > kMostOperandBytes) o.rows = 0, isNull_[o.parameter] = true;
     }
