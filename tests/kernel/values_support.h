@@ -112,7 +112,8 @@ public:
       const unsigned after = _mm_getcsr();
       _mm_setcsr(before);
       EXPECT_EQ(after, controlState);
-      const auto dstMatches = dst_.matches(bitByBit ? Element::k8u : signature.destination()), srcMatches = src_.matches();
+      const auto dstMatches = dst_.matches(bitByBit ? Element::k8u : signature.destination()),
+                 srcMatches = src_.matches();
       EXPECT_EQ(status, expected);
       EXPECT_TRUE(dstMatches) << signature.name << " " << width_ << " x " << height_ << ", " << vectorBytes << " bytes";
       EXPECT_TRUE(srcMatches);
