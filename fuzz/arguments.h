@@ -24,6 +24,14 @@ inline s64 bounded(f64 value) {
   return static_cast<s64>(std::clamp(value, -kFar, kFar));
 }
 
+inline constexpr s64 kMostOperandBytes = 1 << 20;
+
+// 4 for images of floats, 8 for images of doubles, else 0.
+inline int floatBytes(std::string_view type) {
+  if (type.find("Rnx32f") != std::string_view::npos) return 4;
+  return type.find("Rnx64f") != std::string_view::npos ? 8 : 0;
+}
+
 enum class Mood {
   kValid,   // what a careful caller passes
   kHostile  // null pointers, absurd sizes and steps, overlaps, damaged specs
@@ -109,6 +117,7 @@ private:
   void chooseSizes();
   void chooseSpec();
   void chooseResize();
+  void chooseTile();
   void chooseTransform();
   void chooseFilter();
   void measureFilter();

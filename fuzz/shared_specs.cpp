@@ -1,7 +1,7 @@
 // Threads that share specs, each with its own destination and work buffer: a filter, a resize and a transform, for the
 // thread sanitizer. All of them must make what one thread alone makes.
 #include <cstdio>
-#include <cstring>
+#include <latch>
 #include <thread>
 #include <vector>
 
@@ -72,11 +72,13 @@ int main() {
   const Bytes expected = run(plans, image);
 
   bool equal[kThreads] = {};
+  std::latch start(kThreads);  // all at once
   std::vector<std::thread> threads;
   for (int t = 0; t < kThreads; ++t) {
     threads.emplace_back([&, t] {
       equal[t] = true;
-      for (int round = 0; round < kRounds; ++round) equal[t] = equal[t] && run(plans, image) == expected;
+      start.arrive_and_wait();
+      for (int round = 0; round < kRounds; ++round) equal[t] = run(plans, image) == expected && equal[t];
     });
   }
   for (std::thread& thread : threads) thread.join();

@@ -148,7 +148,11 @@ void Arguments::chooseResize() {
     return;
   }
 
-  // The functions that use a spec get sizes that Init accepts; what they are asked may still be absurd.
+  chooseTile();
+}
+
+// The functions that use a spec get sizes that Init accepts; what they are asked may still be absurd.
+void Arguments::chooseTile() {
   const auto sane = [&](s64 n, s64 least, s64 most) {
     return n >= least && n <= most ? n : choose_.between(least, most);
   };

@@ -8,11 +8,15 @@ namespace {
 
 using namespace simd;
 
+// Each operand is used once, so that one of them needs no load of its own. kOpposite: `holds` says where the relation
+// does not hold; turning bytes over costs less than turning larger lanes over.
 struct Less {
+  template <class T>
+  static constexpr bool kOpposite = std::is_unsigned_v<T>;
   template <class T>
   static RNX_INLINE Mask<T> holds(Vec<T> a, Vec<T> b) {
     if constexpr (std::is_unsigned_v<T>) {
-      return ~equal(max(a, b), a);
+      return equal(subSaturated(b, a), Vec<T>::zero());
     } else {
       return greater(b, a);
     }
@@ -21,16 +25,22 @@ struct Less {
 
 struct LessEq {
   template <class T>
+  static constexpr bool kOpposite = std::is_integral_v<T>&& std::is_signed_v<T>;
+  template <class T>
   static RNX_INLINE Mask<T> holds(Vec<T> a, Vec<T> b) {
     if constexpr (std::is_floating_point_v<T>) {
       return {reinterpret_cast<typename Mask<T>::Raw>(a.raw <= b.raw)};
+    } else if constexpr (std::is_unsigned_v<T>) {
+      return equal(subSaturated(a, b), Vec<T>::zero());
     } else {
-      return equal(min(a, b), a);
+      return greater(a, b);
     }
   }
 };
 
 struct Equal {
+  template <class T>
+  static constexpr bool kOpposite = false;
   template <class T>
   static RNX_INLINE Mask<T> holds(Vec<T> a, Vec<T> b) {
     return equal(a, b);
@@ -57,7 +67,9 @@ struct Compare {
     Block<typename MaskOf<sizeof(T)>::Type, B::kLanes> masks;
     RNX_UNROLL
     for (int j = 0; j < B::kVectors; ++j) masks.v[j] = Relation::template holds<T>(a.v[j], b.v[j]);
-    const auto bytes = map(narrowTo<s8>(masks), [](Vec<s8> v) { return Channels::relevant(v.as<u8>()); });
+    const auto bytes = map(narrowTo<s8>(masks), [](Vec<s8> v) {
+      return Channels::relevant((Relation::template kOpposite<T> ? ~v : v).template as<u8>());
+    });
     if constexpr (C == 1) {
       return bytes.v[0];
     } else if constexpr (C == 3) {

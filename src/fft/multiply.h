@@ -21,10 +21,12 @@ RnxStatus multiplyImages(const f32* src1, int src1Step, const f32* src2, int src
   if (core::anyNull(src1, src2, dst)) return rnxStatusNullPointer;
   if (core::anyStepBelow1(src1Step, src2Step, dstStep)) return rnxStatusBadStep;
   if (core::empty(roi)) return rnxStatusBadSize;
-  const s64 bytesMoved = 3 * s64{roi.width} * roi.height * L::kChannels * s64{sizeof(f32)};
-  const MultiplyKernels& kernels = core::wideRows(bytesMoved) ? v256::multiplyKernels : v128::multiplyKernels;
+  const s64 width = s64{roi.width} * L::kChannels;
+  const core::Rows rows = core::planRows(width, roi.height, core::operand(dst, dstStep, width),
+                                         core::operand(src1, src1Step, width), core::operand(src2, src2Step, width));
+  const MultiplyKernels& kernels = core::wideRows(rows.bytesMoved) ? v256::multiplyKernels : v128::multiplyKernels;
   kernelOf<L>(kFactor == Factor::kConjugate ? kernels.conjugate : kernels.plain)(
-      {src1, src1Step, src2, src2Step, dst, dstStep, roi.width, roi.height});
+      {src1, src1Step, src2, src2Step, dst, dstStep, roi.width, roi.height, rows.walk == core::Walk::kInOrder});
   return rnxStatusNoError;
 }
 

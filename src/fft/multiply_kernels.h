@@ -5,7 +5,8 @@
 
 namespace rnx::fft {
 
-// dst = left * right, or left * conj right; dst may be one of the two.
+// dst = left * right, or left * conj right; dst may be one of the two. In order, number by number, where it overlaps
+// them otherwise.
 struct MultiplyCall {
   const f32* left;
   s64 leftStep;
@@ -14,6 +15,7 @@ struct MultiplyCall {
   f32* dst;
   s64 dstStep;
   s64 width, height;  // pixels
+  bool inOrder;
 };
 
 using MultiplyKernel = void (*)(const MultiplyCall&);

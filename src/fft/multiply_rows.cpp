@@ -54,7 +54,8 @@ private:
   // sides, where the select drops what they find; they all come before its stores, so that dst may be an operand.
   void pairs(const f32* a, const f32* b, f32* dst, s64 n) const {
     s64 i = 0;
-    for (; i + kRound + kChannels <= n; i += kRound) {
+    const s64 vectorEnd = call_.inOrder ? 0 : n;
+    for (; i + kRound + kChannels <= vectorEnd; i += kRound) {
       Lanes result[kVectors];
       for (int v = 0; v < kVectors; ++v) {
         const s64 at = i + v * L;

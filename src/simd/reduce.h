@@ -138,14 +138,29 @@ RNX_INLINE Vec<u64> sumOfBytes(Vec<u8> v) { return Vec<u64>::of(RNX_MM(sad_epu8)
 RNX_INLINE Vec<u32> sumOfSquares(Vec<u16> v) { return Vec<u32>::of(RNX_MM(madd_epi16)(v.bits(), v.bits())); }
 RNX_INLINE Vec<u32> sumOfSquares(Vec<s16> v) { return Vec<u32>::of(RNX_MM(madd_epi16)(v.bits(), v.bits())); }
 
-// Two floats of each of as many rows as a vector holds pairs of doubles: for sums whose order is promised.
+// Two floats of each of as many rows as a vector holds pairs of doubles, or four in two vectors: for sums whose order
+// is promised.
 inline constexpr int kRowsOfPairs = kBytes / 16;
+
 RNX_INLINE Vec<f64> pairsAsDouble(const f32* p, [[maybe_unused]] s64 step) {
   const auto pair = [](const f32* a) RNX_INLINE_LAMBDA { return _mm_loadl_epi64(reinterpret_cast<const __m128i*>(a)); };
 #if RNX_VECTOR_BYTES == 32
   return {_mm256_cvtps_pd(_mm_castsi128_ps(_mm_unpacklo_epi64(pair(p), pair(core::at(p, step)))))};
 #else
   return {_mm_cvtps_pd(_mm_castsi128_ps(pair(p)))};
+#endif
+}
+
+struct TwoPairs {
+  Vec<f64> first, second;
+};
+RNX_INLINE TwoPairs fourAsDouble(const f32* p, [[maybe_unused]] s64 step) {
+  const __m128 a = _mm_loadu_ps(p);
+#if RNX_VECTOR_BYTES == 32
+  const __m128 b = _mm_loadu_ps(core::at(p, step));
+  return {{_mm256_cvtps_pd(_mm_movelh_ps(a, b))}, {_mm256_cvtps_pd(_mm_movehl_ps(b, a))}};
+#else
+  return {{_mm_cvtps_pd(a)}, {_mm_cvtps_pd(_mm_movehl_ps(a, a))}};
 #endif
 }
 

@@ -33,6 +33,7 @@ struct OfImage {
   }
   static RNX_INLINE Vec<f32> value(Vec<f32> v) { return v; }
   static RNX_INLINE Vec<f64> exactPairs(const f32* v, s64 step, const f32*, s64) { return pairsAsDouble(v, step); }
+  static RNX_INLINE TwoPairs exactFours(const f32* v, s64 step, const f32*, s64) { return fourAsDouble(v, step); }
   static f64 exact(const f32* v, const f32*, s64 i) { return elementAsDouble(v, i); }
 };
 
@@ -48,6 +49,10 @@ struct OfDifference {
   static RNX_INLINE Vec<f32> value(Vec<f32> a, Vec<f32> b) { return a - b; }
   static RNX_INLINE Vec<f64> exactPairs(const f32* a, s64 aStep, const f32* b, s64 bStep) {
     return pairsAsDouble(a, aStep) - pairsAsDouble(b, bStep);
+  }
+  static RNX_INLINE TwoPairs exactFours(const f32* a, s64 aStep, const f32* b, s64 bStep) {
+    const TwoPairs p = fourAsDouble(a, aStep), q = fourAsDouble(b, bStep);
+    return {p.first - q.first, p.second - q.second};
   }
   static f64 exact(const f32* a, const f32* b, s64 i) { return elementAsDouble(a, i) - elementAsDouble(b, i); }
 };
@@ -481,15 +486,24 @@ void addRowsExactly(const ReduceCall<f32>& call, s64 y, f64* totals) {
   const s64 firstStep = kOneRow ? 0 : call.firstStep, secondStep = kOneRow ? 0 : call.secondStep;
   Vec<f64> apart[kVectors][C] = {};
   s64 i = 0;
-  for (; i + 2 * C <= call.width; i += 2 * C) {
+  constexpr int kStep = C == 1 ? 4 : 2 * C;  // elements
+  for (; i + kStep <= call.width; i += kStep) {
     RNX_UNROLL
     for (int r = 0; r < kVectors; ++r) {
       const f32* a = core::at(first, r * kRowsOfPairs * firstStep, i);
       const f32* b = core::at(second, r * kRowsOfPairs * secondStep, i);
+      const auto add = [&](int k, Vec<f64> pairs)
+                           RNX_INLINE_LAMBDA { apart[r][k % C] = apart[r][k % C] + Op::term(pairs); };
       RNX_UNROLL
-      for (int k = 0; k < C; ++k) {
-        const Vec<f64> terms = Of::exactPairs(core::at(a, 0, 2 * k), firstStep, core::at(b, 0, 2 * k), secondStep);
-        apart[r][k] = apart[r][k] + Op::term(terms);
+      for (int k = 0; k < kStep / 2; k += 2) {
+        const f32 *p = core::at(a, 0, 2 * k), *q = core::at(b, 0, 2 * k);
+        if (k + 1 < kStep / 2) {
+          const TwoPairs fours = Of::exactFours(p, firstStep, q, secondStep);
+          add(k, fours.first);
+          add(k + 1, fours.second);
+        } else {
+          add(k, Of::exactPairs(p, firstStep, q, secondStep));
+        }
       }
     }
   }
@@ -503,7 +517,7 @@ void addRowsExactly(const ReduceCall<f32>& call, s64 y, f64* totals) {
     const f32 *a = core::at(first, r * firstStep), *b = core::at(second, r * secondStep);
     f64 sums[2 * C];
     for (int k = 0; k < 2 * C; ++k) sums[k] = lanes[r / kRowsOfPairs][k / 2][r % kRowsOfPairs * 2 + k % 2];
-    for (s64 j = i; j < call.width; ++j) Op::add(sums[j - i], Of::exact(a, b, j));
+    for (s64 j = i; j < call.width; ++j) Op::add(sums[(j - i) % (2 * C)], Of::exact(a, b, j));
     for (int c = 0; c < C; ++c) totals[c] += sums[c] + sums[C + c];
   }
 }
