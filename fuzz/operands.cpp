@@ -100,9 +100,11 @@ void Arguments::describeImage(size_t index) {
   if (s_.has("dstroi")) size = written ? dstRoi_ : srcRoi_;
   const bool isResize = s_.has("tileoffset");
   if (isResize) {
-    size = written ? Sizes{std::min(roi_.width, bounded(static_cast<f64>(result_.width) - static_cast<f64>(tileX_))),
-                           std::min(roi_.height, bounded(static_cast<f64>(result_.height) - static_cast<f64>(tileY_)))}
-                   : whole_;
+    // A tile that begins outside the destination is refused.
+    const bool inside = tileX_ >= 0 && tileY_ >= 0 && tileX_ < result_.width && tileY_ < result_.height;
+    const Sizes tile = {std::min(roi_.width, result_.width - (inside ? tileX_ : 0)),
+                        std::min(roi_.height, result_.height - (inside ? tileY_ : 0))};
+    size = !written ? whole_ : inside ? tile : Sizes{};
   }
   o.rows = size.height;
   o.rowBytes = size.width < 1 ? 0 : (std::min<s64>(size.width, s64{1} << 40) - 1) * pixel + used;

@@ -14,7 +14,10 @@ extern "C" {
 
 /* rnxiGetLibVersion: What this library is: a constant record that must not be freed.
 
-   Cannot fail. */
+   Cannot fail.
+
+   Example
+       printf("%s %s\n", rnxiGetLibVersion()->Name, rnxiGetLibVersion()->Version); */
 
 const RnxLibraryVersion* rnxiGetLibVersion(void);
 

@@ -75,7 +75,8 @@ extern "C" {
        Rnx8u* work = workSize > 0 ? malloc(workSize) : NULL;
        rnxiFFTInit_C_32fc(9, 8, rnxFftDivideInverse, 0, spec, init);
        free(init);
-       rnxiFFTFwd_CToC_32fc_C1R(image, imageStep, spectrum, spectrumStep, spec, work); */
+       rnxiFFTFwd_CToC_32fc_C1R(image, imageStep, spectrum, spectrumStep, spec, work);
+       rnxiFFTInv_CToC_32fc_C1R(spectrum, spectrumStep, image, imageStep, spec, work); */
 
 RnxStatus rnxiFFTGetSize_C_32fc(int orderX, int orderY, int flag, int hint, int* pSpecSize, int* pSpecBufferSize,
     int* pBufferSize);
@@ -95,7 +96,19 @@ RnxStatus rnxiFFTGetSize_C_32fc(int orderX, int orderY, int flag, int hint, int*
      rnxStatusNullPointer: a result pointer is null; other errors set all three results to 0
      rnxStatusBadFftOrder: orderX below 0 or above 28; then the flag is tested, then orderY
      rnxStatusBadFftFlag: flag not 1, 2, 4 or 8
-     rnxStatusSizeOverflow: a size passes 0x7fffffff bytes */
+     rnxStatusSizeOverflow: a size passes 0x7fffffff bytes
+
+   Example
+       int specSize, initSize, workSize;
+       const int orderX = 9, orderY = 8;   // 512 x 256
+       rnxiFFTGetSize_R_32f(orderX, orderY, rnxFftDivideInverse, 0, &specSize, &initSize, &workSize);
+       RnxiFFTSpec* spec = malloc(specSize);
+       Rnx8u* init = initSize > 0 ? malloc(initSize) : NULL;
+       Rnx8u* work = workSize > 0 ? malloc(workSize) : NULL;
+       rnxiFFTInit_R_32f(orderX, orderY, rnxFftDivideInverse, 0, spec, init);
+       free(init);
+       rnxiFFTFwd_RToPack_32f_C1R(image, imageStep, spectrum, spectrumStep, spec, work);
+       rnxiFFTInv_PackToR_32f_C1R(spectrum, spectrumStep, image, imageStep, spec, work); */
 
 RnxStatus rnxiFFTGetSize_R_32f(int orderX, int orderY, int flag, int hint, int* pSpecSize, int* pSpecBufferSize,
     int* pBufferSize);
@@ -153,7 +166,19 @@ RnxStatus rnxiFFTInit_R_32f(int orderX, int orderY, int flag, int hint, RnxiFFTS
      rnxStatusNullPointer: a result pointer is null; other errors set all three results to 0
      rnxStatusBadSize: width or height below 1
      rnxStatusBadFftFlag: flag not 1, 2, 4 or 8
-     rnxStatusSizeOverflow: a size passes 0x7fffffff bytes */
+     rnxStatusSizeOverflow: a size passes 0x7fffffff bytes
+
+   Example
+       int specSize, initSize, workSize;
+       RnxiSize size = {640, 480};
+       rnxiDFTGetSize_C_32fc(size, rnxFftDivideInverse, 0, &specSize, &initSize, &workSize);
+       RnxiDFTSpec* spec = malloc(specSize);
+       Rnx8u* init = initSize > 0 ? malloc(initSize) : NULL;
+       Rnx8u* work = workSize > 0 ? malloc(workSize) : NULL;
+       rnxiDFTInit_C_32fc(size, rnxFftDivideInverse, 0, spec, init);
+       free(init);
+       rnxiDFTFwd_CToC_32fc_C1R(image, imageStep, spectrum, spectrumStep, spec, work);
+       rnxiDFTInv_CToC_32fc_C1R(spectrum, spectrumStep, image, imageStep, spec, work); */
 
 RnxStatus rnxiDFTGetSize_C_32fc(RnxiSize roiSize, int flag, int hint, int* pSpecSize, int* pSpecBufferSize,
     int* pBufferSize);
@@ -173,7 +198,19 @@ RnxStatus rnxiDFTGetSize_C_32fc(RnxiSize roiSize, int flag, int hint, int* pSpec
      rnxStatusNullPointer: a result pointer is null; other errors set all three results to 0
      rnxStatusBadSize: width or height below 1
      rnxStatusBadFftFlag: flag not 1, 2, 4 or 8
-     rnxStatusSizeOverflow: a size passes 0x7fffffff bytes */
+     rnxStatusSizeOverflow: a size passes 0x7fffffff bytes
+
+   Example
+       int specSize, initSize, workSize;
+       RnxiSize size = {640, 480};
+       rnxiDFTGetSize_R_32f(size, rnxFftDivideInverse, 0, &specSize, &initSize, &workSize);
+       RnxiDFTSpec* spec = malloc(specSize);
+       Rnx8u* init = initSize > 0 ? malloc(initSize) : NULL;
+       Rnx8u* work = workSize > 0 ? malloc(workSize) : NULL;
+       rnxiDFTInit_R_32f(size, rnxFftDivideInverse, 0, spec, init);
+       free(init);
+       rnxiDFTFwd_RToPack_32f_C1R(image, imageStep, spectrum, spectrumStep, spec, work);
+       rnxiDFTInv_PackToR_32f_C1R(spectrum, spectrumStep, image, imageStep, spec, work); */
 
 RnxStatus rnxiDFTGetSize_R_32f(RnxiSize roiSize, int flag, int hint, int* pSpecSize, int* pSpecBufferSize,
     int* pBufferSize);

@@ -129,7 +129,14 @@ RnxStatus rnxiResizeNearestInit_L(const RnxiSizeL* srcSize, const RnxiSizeL* dst
      rnxStatusBadSize: source width or height below 2
      rnxStatusSizeOverflow: the spec would have 0x7fffffff bytes or more; _L: a width or height above 33554431 (the
          size queries then write 0)
-     rnxStatusBadDataType: _L: dataType not 1, 5, 7 or 13, nor 19 with linear interpolation */
+     rnxStatusBadDataType: _L: dataType not 1, 5, 7 or 13, nor 19 with linear interpolation
+
+   Example
+       const RnxiSize from = {640, 480}, to = {320, 240};
+       int specSize, initSize;
+       rnxiResizeGetSize_8u(from, to, rnxLinear, 0, &specSize, &initSize);
+       RnxiResizeSpec* spec = (RnxiResizeSpec*)malloc(specSize);
+       RnxStatus status = rnxiResizeLinearInit_8u(from, to, spec); */
 
 RnxStatus rnxiResizeLinearInit_8u(RnxiSize srcSize, RnxiSize dstSize, RnxiResizeSpec* pSpec);
 RnxStatus rnxiResizeLinearInit_8u_L(const RnxiSizeL* srcSize, const RnxiSizeL* dstSize, RnxiResizeSpec* pSpec);
@@ -178,7 +185,11 @@ RnxStatus rnxiResizeGetBufferSize_L(const RnxiResizeSpec* pSpec, const RnxiSizeL
 
    Checks, in this order
      rnxStatusNullPointer: a pointer is null (all are tested together)
-     rnxStatusBadContext: not a spec of these functions, or one for another element type */
+     rnxStatusBadContext: not a spec of these functions, or one for another element type
+
+   Example
+       RnxiBorderSize border;
+       RnxStatus status = rnxiResizeGetBorderSize_8u(spec, &border); */
 
 RnxStatus rnxiResizeGetBorderSize_8u(const RnxiResizeSpec* pSpec, RnxiBorderSize* pBorderSize);
 RnxStatus rnxiResizeGetBorderSize_16u(const RnxiResizeSpec* pSpec, RnxiBorderSize* pBorderSize);
@@ -225,7 +236,12 @@ RnxStatus rnxiResizeGetSrcOffset_L(const RnxiResizeSpec* pSpec, RnxiPointL dstOf
      rnxStatusNullPointer: a pointer is null (all are tested together)
      rnxStatusBadSize: a width or height is below 1
      rnxStatusBadContext: not a spec of these functions, or one for another element type
-     rnxStatusOutOfRange: offset negative, or not below the size of the whole destination */
+     rnxStatusOutOfRange: offset negative, or not below the size of the whole destination
+
+   Example
+       // what of the source the lower right quarter of the destination needs
+       RnxiRect tile = {dstSize.width / 2, dstSize.height / 2, dstSize.width / 2, dstSize.height / 2}, part;
+       RnxStatus status = rnxiResizeGetSrcRoi_8u(spec, tile, &part); */
 
 RnxStatus rnxiResizeGetSrcRoi_8u(const RnxiResizeSpec* pSpec, RnxiRect dstRoi, RnxiRect* pSrcRoi);
 RnxStatus rnxiResizeGetSrcRoi_16u(const RnxiResizeSpec* pSpec, RnxiRect dstRoi, RnxiRect* pSrcRoi);

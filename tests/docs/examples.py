@@ -32,7 +32,8 @@ RESIZE = """const RnxiSize dstSize = {640, 480};
   Rnx8u* buffer = memory(1 << 16);
   rnxiResizeLinearInit_8u((RnxiSize){320, 240}, dstSize, spec);"""
 PREPARED = {"FilterBorderInit": "RnxiFilterBorderSpec* spec = memory(65536);", "FilterBorderSetMode": FILTER,
-            "FilterBorder": FILTER, "MulPack": TRANSFORM, "MulPackConj": TRANSFORM, "ResizeLinear": RESIZE}  # fmt: skip
+            "FilterBorder": FILTER, "MulPack": TRANSFORM, "MulPackConj": TRANSFORM, "ResizeLinear": RESIZE,
+            "ResizeGetBorderSize": RESIZE, "ResizeGetSrcRoi": RESIZE}  # fmt: skip
 
 PROGRAM = """/* The examples of the headers. Written by tests/docs/examples.py. */
 #include <rnxip.h>
@@ -66,7 +67,7 @@ def split(arguments):
             parts.append("")
         else:
             parts[-1] += character
-    return [part.strip() for part in parts]
+    return [part.strip() for part in parts if part.strip()]
 
 
 def calls_in(code):
@@ -112,7 +113,7 @@ def function(family, exports):
         for word in planes.split(", "):
             if word[0].isalpha() and word not in known:
                 declarations[word] = f"Rnx8u* {word} = memory({STEP * ROWS});"
-    code = re.sub(r"(?<!\w)(rnxi(?!Free|Malloc)\w+)\(", rf'check("{family.name}", \1(', code)
+    code = re.sub(r"(?<!\w)(rnxi(?!Free|Malloc|GetLibVersion)\w+)\(", rf'check("{family.name}", \1(', code)
     code = re.sub(r'(check\("\w+", rnxi[^;]*)\);', r"\1));", code)
     body = [prepared, *declarations.values(), *code.splitlines()]
     if "status" in plain:
