@@ -16,7 +16,8 @@ extern "C" {
    middle of a byte: with b the bit offset modulo 8, pixel x is bit (b + x) mod 8 of byte (b + x) div 8 of the row. Only
    the offset modulo 8 counts; for a larger one move the pointer.
 
-   Source and destination may not overlap. */
+   Images may overlap in any way; the result is that of a loop over the rows from the top and over the pixels of a row from
+   the left, in which a byte of bits is read and written for every pixel. */
 
 /* rnxiGrayToBin: Turns a gray image into a one-bit image by a threshold.
 
@@ -874,7 +875,7 @@ RnxStatus rnxiConvert_32f32u_C1IRSfs(Rnx32u* pSrcDst, int srcDstStep, RnxiSize r
    With a channel pointer nothing before the first and behind the last element of the channel is touched.
 
    A copy whose images are larger together than 524288 bytes and not smaller than the largest cache is written around the
-   caches (C1R, C3R, C4R).
+   caches, but for forms that leave something of the destination as it is.
 
    Forms ending in _L take 64-bit steps and sizes. An image that fits the plain form (every step below 0x7fffffff in
    magnitude, fewer than 0x7fffffff bytes) is checked by it; for a larger one a height below 1 gives 0.

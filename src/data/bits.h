@@ -16,11 +16,17 @@ RnxStatus checkBits(const S* src, int srcStep, const D* dst, int dstStep, int bi
   return rnxStatusNoError;
 }
 
-// Rows of whole bytes that follow each other are one row.
+// How the images meet, and rows of whole bytes that follow each other as one row.
 template <class T, class Call>
-Call merged(Call call, s64 grayStep, s64 bitStep) {
-  const bool whole = call.offset == 0 && call.width % 8 == 0;
-  if (whole && bitStep == call.width / 8 && grayStep == call.width * static_cast<s64>(sizeof(T))) {
+Call planned(Call call, s64 grayStep, s64 bitStep) {
+  const s64 grayBytes = call.width * static_cast<s64>(sizeof(T)), bitBytes = (call.offset + call.width + 7) / 8;
+  constexpr bool kFromGray = std::is_same_v<Call, ToBitsCall<T>>;
+  const core::Operand src = {reinterpret_cast<uintptr_t>(call.src), call.srcStep, kFromGray ? grayBytes : bitBytes};
+  const core::Operand dst = {reinterpret_cast<uintptr_t>(call.dst), call.dstStep, kFromGray ? bitBytes : grayBytes};
+  const core::Relation relation = core::relate(dst, src, call.height);
+  call.inOrder = relation == core::Relation::kOverlap;
+  const bool wholeBytes = call.offset == 0 && call.width % 8 == 0;
+  if (relation == core::Relation::kApart && wholeBytes && bitStep == bitBytes && grayStep == grayBytes) {
     call.width *= call.height;
     call.height = 1;
   }
@@ -39,13 +45,14 @@ RnxStatus grayToBits(const T* src, int srcStep, u8* dst, int dstStep, int dstBit
 
   const ToBitsCall<T> call = {.width = roi.width,
                               .height = roi.height,
+                              .inOrder = false,
                               .src = src,
                               .srcStep = srcStep,
                               .dst = dst,
                               .dstStep = dstStep,
                               .offset = dstBitOffset % 8,
                               .threshold = threshold};
-  bitsForms<T>(roi).toBits(merged<T>(call, srcStep, dstStep));
+  bitsForms<T>(roi).toBits(planned<T>(call, srcStep, dstStep));
   return rnxStatusNoError;
 }
 
@@ -55,6 +62,7 @@ RnxStatus bitsToGray(const u8* src, int srcStep, int srcBitOffset, T* dst, int d
 
   const FromBitsCall<T> call = {.width = roi.width,
                                 .height = roi.height,
+                                .inOrder = false,
                                 .src = src,
                                 .srcStep = srcStep,
                                 .offset = srcBitOffset % 8,
@@ -62,7 +70,7 @@ RnxStatus bitsToGray(const u8* src, int srcStep, int srcBitOffset, T* dst, int d
                                 .dstStep = dstStep,
                                 .low = low,
                                 .high = high};
-  bitsForms<T>(roi).fromBits(merged<T>(call, dstStep, srcStep));
+  bitsForms<T>(roi).fromBits(planned<T>(call, dstStep, srcStep));
   return rnxStatusNoError;
 }
 

@@ -8,6 +8,7 @@ namespace rnx::data {
 template <class T>
 struct ToBitsCall {
   s64 width, height;
+  bool inOrder;  // the images overlap: pixel by pixel
   const T* src;
   s64 srcStep;
   u8* dst;
@@ -19,6 +20,7 @@ struct ToBitsCall {
 template <class T>
 struct FromBitsCall {
   s64 width, height;
+  bool inOrder;
   const u8* src;
   s64 srcStep;
   int offset;

@@ -110,7 +110,13 @@ void toBits(const ToBitsCall<T>& call) {
   const T* src = call.src;
   u8* dst = call.dst;
   for (s64 y = 0; y < call.height; ++y) {
-    rows.row(src, dst, call.width, call.offset);
+    if (call.inOrder) {
+      for (s64 x = 0, bit = call.offset; x < call.width; ++x, ++bit) {
+        rows.row(src + x, dst + bit / 8, 1, static_cast<int>(bit % 8));
+      }
+    } else {
+      rows.row(src, dst, call.width, call.offset);
+    }
     src = core::at(src, call.srcStep);
     dst = core::at(dst, call.dstStep);
   }
@@ -174,7 +180,13 @@ void fromBits(const FromBitsCall<T>& call) {
   const u8* src = call.src;
   T* dst = call.dst;
   for (s64 y = 0; y < call.height; ++y) {
-    rows.row(src, dst, call.width, call.offset);
+    if (call.inOrder) {
+      for (s64 x = 0, bit = call.offset; x < call.width; ++x, ++bit) {
+        rows.row(src + bit / 8, dst + x, 1, static_cast<int>(bit % 8));
+      }
+    } else {
+      rows.row(src, dst, call.width, call.offset);
+    }
     src = core::at(src, call.srcStep);
     dst = core::at(dst, call.dstStep);
   }

@@ -107,7 +107,6 @@ public:
     const Vec<u8> at = positionsOf(call, 0);
     index_ = indexInto(0, at);
     last_ = Vec<u8>::of(RNX_MM(adds_epu8)(index_.bits(), Vec<u8>::splat(4).bits()));
-    lastOfAll_ = firstAndLast(index_, last_);
     keep_ = equal(at, Vec<u8>::splat(static_cast<u8>(kKeep)));
     value_ = equal(at, Vec<u8>::splat(static_cast<u8>(kValue))).template as<u8>() & everyGroup(loadChunk(call.value));
   }
@@ -124,9 +123,8 @@ public:
     for (int j = 0; j < 4; ++j) {
       Vec<u8> v;
       if constexpr (Adjacent) {
-        constexpr int kPart = 12 * kGroups;
-        v = shuffle(loadChunks(src + j * kPart - (j == 3 && kGroups == 1 ? 4 : 0), j == 3 ? 8 : 12),
-                    j == 3 ? lastOfAll_ : index_);
+        const u8* twelves = src + j * 12 * kGroups;
+        v = shuffle(j == 3 ? loadTwelves<true>(twelves) : loadTwelves<false>(twelves), index_);
       } else {
         v = shuffle(loadChunks(src + j * 12 - (j == 3 ? 4 : 0), apart * srcPixel_), j == 3 ? last_ : index_);
       }
@@ -142,7 +140,7 @@ public:
   }
 
 private:
-  Vec<u8> index_, last_, lastOfAll_, value_;
+  Vec<u8> index_, last_, value_;
   Mask<u8> keep_;
 };
 
@@ -271,6 +269,9 @@ public:
 
   template <bool Adjacent, bool Stream>
   RNX_INLINE void store(s64 x, s64 apart, const Result& r) const {
+    if constexpr (Adjacent && !ToPlanes) {
+      return storeGroups<4, Stream>(const_cast<u8*>(pixels_) + x * 4 * elementBytes_, r.chunk);
+    }
     RNX_UNROLL
     for (int k = 0; k < 4; ++k) {
       if constexpr (ToPlanes) {

@@ -98,6 +98,7 @@ public:
 
   template <bool Adjacent, bool Stream>
   RNX_INLINE void store(s64 x, s64 apart, const Result& result) const {
+    if constexpr (Adjacent && Out == 3 && O != Order::kToPlanes) return storeGroups<3, Stream>(dst(x, 0), result.chunk);
     RNX_UNROLL
     for (int j = 0; j < Out; ++j)
       storeChunks<Adjacent && kTightResult, Stream>(dst(x, j), apart * dstPixel_, result.chunk[j]);

@@ -204,6 +204,7 @@ private:
   }
   template <bool Adjacent, bool Stream = false>
   static RNX_INLINE void store(u8* p, s64 apart, const Group& group) {
+    if constexpr (Adjacent && kChunks == 3) return storeGroups<3, Stream>(p, group.chunk);
     RNX_UNROLL
     for (int i = 0; i < kChunks; ++i)
       storeChunks<Adjacent && kChunks == 1, Stream>(p + i * kChunk, apart, group.chunk[i]);

@@ -79,6 +79,7 @@ public:
 
   template <bool Adjacent, bool Stream>
   RNX_INLINE void store(s64 x, s64 apart, const Result& result) const {
+    if constexpr (Adjacent) return storeGroups<3, Stream>(dst + 3 * x, result.chunk);
     RNX_UNROLL
     for (int j = 0; j < 3; ++j) storeChunks(dst + 3 * x + j * kChunk, 3 * apart, result.chunk[j]);
   }

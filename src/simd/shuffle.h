@@ -196,6 +196,23 @@ RNX_INLINE Vec<u8> chunkForThree(const u8* p, [[maybe_unused]] int j) {
 #endif
 }
 
+// Stores the registers of adjacent groups of three or four chunks.
+template <int C, bool Stream>
+RNX_INLINE void storeGroups(u8* p, const Vec<u8>* chunks) {
+#if RNX_VECTOR_BYTES == 32
+  const Int a = chunks[0].bits(), b = chunks[1].bits(), c = chunks[2].bits(), d = chunks[C - 1].bits();
+  const Int first = _mm256_permute2x128_si256(a, b, 0x20);
+  const Int second = C == 3 ? _mm256_permute2x128_si256(c, a, 0x30) : _mm256_permute2x128_si256(c, d, 0x20);
+  const Int third = C == 3 ? _mm256_permute2x128_si256(b, c, 0x31) : _mm256_permute2x128_si256(a, b, 0x31);
+  const Vec<u8> inOrder[] = {Vec<u8>::of(first), Vec<u8>::of(second), Vec<u8>::of(third),
+                             Vec<u8>::of(_mm256_permute2x128_si256(c, d, 0x31))};
+#else
+  const Vec<u8>* const inOrder = chunks;
+#endif
+  RNX_UNROLL
+  for (int j = 0; j < C; ++j) storeChunks<true, Stream>(p + j * kBytes, 0, inOrder[j]);
+}
+
 // Four-byte word i of a half of v belongs to, or comes from, register i of four that follow each other in memory.
 RNX_INLINE Vec<u8> wordsToMemory(Vec<u8> v) {
 #if RNX_VECTOR_BYTES == 32
@@ -232,6 +249,18 @@ RNX_INLINE void joinTwelvesInMemory(const Vec<u8> (&v)[4], Vec<u8>* joined) {
   joined[2] = Vec<u8>::of(_mm256_blend_epi32(c, d, 0xFC));
 }
 #endif
+
+// Two runs of 12 bytes one behind the other, at p, at the start of the chunks. The last ones are read from the end of
+// what lies before them: with nothing behind them that may be read.
+template <bool Last>
+RNX_INLINE Vec<u8> loadTwelves(const u8* p) {
+#if RNX_VECTOR_BYTES == 32
+  const auto words = Last ? _mm256_setr_epi32(2, 3, 4, 4, 5, 6, 7, 7) : _mm256_setr_epi32(0, 1, 2, 2, 3, 4, 5, 5);
+  return Vec<u8>::of(_mm256_permutevar8x32_epi32(Vec<u8>::load(Last ? p - 8 : p).bits(), words));
+#else
+  return Last ? Vec<u8>::of(_mm_srli_si128(loadChunk(p - 4), 4)) : everyGroup(loadChunk(p));
+#endif
+}
 
 // The chunk turned to the left in memory's sense: byte b goes to byte b + Bytes, modulo a chunk.
 template <int Bytes>

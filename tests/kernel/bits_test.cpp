@@ -56,6 +56,40 @@ protected:
     ASSERT_TRUE(bits.matches()) << width << "x" << height << " offset " << offset;
     ASSERT_TRUE(pixels.matches()) << width << "x" << height << " offset " << offset;
   }
+
+  template <class T>
+  void overlapping(s64 width, s64 height) {
+    const int offset = static_cast<int>(random.between(0, 9));
+    const s64 bitBytes = (offset % 8 + width + 7) / 8, grayBytes = width * s64{sizeof(T)};
+    Arena arena(random, 6000);
+    Image& memory = arena.memory();
+    const s64 grayStep = grayBytes + random.between(0, 9), bitStep = bitBytes + random.between(0, 9);
+    u8* pixels = arena.place(grayBytes, height, grayStep);
+    u8* bits = arena.place(bitBytes, height, bitStep, pixels);
+    const T threshold = value<T>(random, Data::kModerate), low = value<T>(random, Data::kModerate);
+    const T high = value<T>(random, Data::kModerate);
+    for (s64 y = 0; y < height; ++y) {
+      u8 *grayRow = memory.shadow(pixels) + y * grayStep, *bitRow = memory.shadow(bits) + y * bitStep;
+      for (s64 x = 0; x < width; ++x) {
+        if (toBits) {
+          putBit(bitRow, offset % 8 + x, get<T>(grayRow, x) > threshold);
+        } else {
+          put(grayRow, x, getBit(bitRow, offset % 8 + x) ? high : low);
+        }
+      }
+    }
+    Call call(s);
+    call.set(toBits ? "pSrc" : "pDst", pixels).set(toBits ? "srcStep" : "dstStep", grayStep);
+    call.set(toBits ? "pDst" : "pSrc", bits).set(toBits ? "dstStep" : "srcStep", bitStep).roi(width, height);
+    call.set(toBits ? "dstBitOffset" : "srcBitOffset", offset);
+    if (toBits) {
+      call.set("threshold", threshold);
+    } else {
+      call.set("loVal", low).set("hiVal", high);
+    }
+    ASSERT_EQ(call(), rnxStatusNoError);
+    ASSERT_TRUE(memory.matches()) << width << "x" << height << " offset " << offset << " apart " << bits - pixels;
+  }
 };
 
 TEST_P(OneBit, MatchesTheModel) {
@@ -68,6 +102,19 @@ TEST_P(OneBit, MatchesTheModel) {
         });
         if (HasFatalFailure()) return;
       }
+    }
+  }
+}
+
+// Pixel by pixel where the images overlap: a bit that is written is there for the pixels that follow.
+TEST_P(OneBit, MayOverlap) {
+  for (const int vector : vectorWidths()) {
+    const ScopedWidth bytes(vector);
+    for (int i = 0; i < 200; ++i) {
+      withType(gray, [&](auto zero) {
+        if constexpr (sizeof(zero) <= 4) overlapping<decltype(zero)>(random.between(1, 150), random.between(1, 3));
+      });
+      if (HasFatalFailure()) return;
     }
   }
 }
