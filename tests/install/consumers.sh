@@ -12,7 +12,7 @@ mkdir -p "$work"
 cmake --install "$build" --prefix "$work/first" >"$work/install.log"
 mv "$work/first" "$work/prefix"
 
-cmake -S "$consumer" -B "$work/cmake" -DCMAKE_PREFIX_PATH="$work/prefix" \
+cmake -G Ninja -S "$consumer" -B "$work/cmake" -DCMAKE_PREFIX_PATH="$work/prefix" \
   -DCMAKE_C_FLAGS="$sanitize" -DCMAKE_CXX_FLAGS="$sanitize" -DCMAKE_EXE_LINKER_FLAGS="$sanitize"
 cmake --build "$work/cmake"
 "$work/cmake/with_c"
