@@ -13,7 +13,7 @@
 namespace rnximg {
 namespace {
 
-struct Session {
+struct Codec {
   std::FILE* file;
   int channels;
   RnxiSize size = {};
@@ -25,7 +25,7 @@ struct Session {
 };
 
 [[noreturn]] void onError(j_common_ptr info) {
-  auto* s = static_cast<Session*>(info->client_data);
+  auto* s = static_cast<Codec*>(info->client_data);
   s->errors.format_message(info, s->reason);
   std::longjmp(s->jump, 1);
 }
@@ -54,16 +54,16 @@ bool guarded(S* s, void (*work)(S*)) {
   return true;
 }
 
-JSAMPROW row(const Session* s, unsigned y) { return s->pixels + static_cast<std::ptrdiff_t>(y) * s->step; }
+JSAMPROW row(const Codec* s, unsigned y) { return s->pixels + static_cast<std::ptrdiff_t>(y) * s->step; }
 
 J_COLOR_SPACE colorSpace(int channels, J_COLOR_SPACE fourChannels) {
   return channels == 1 ? JCS_GRAYSCALE : channels == 3 ? JCS_RGB : fourChannels;
 }
 
-struct Reader : Session {
-  Reader(std::FILE* f, int wanted) : Session{f, wanted} {
+struct Reader : Codec {
+  Reader(std::FILE* f, int wanted) : Codec{f, wanted} {
     info.err = prepare(&errors);
-    info.client_data = static_cast<Session*>(this);
+    info.client_data = static_cast<Codec*>(this);
   }
   Reader(const Reader&) = delete;
   ~Reader() { jpeg_destroy_decompress(&info); }
@@ -92,10 +92,10 @@ void readPixels(Reader* s) {
   jpeg_finish_decompress(&s->info);
 }
 
-struct Writer : Session {
-  Writer(std::FILE* f, int q) : Session{f, 0}, quality(q) {
+struct Writer : Codec {
+  Writer(std::FILE* f, int q) : Codec{f, 0}, quality(q) {
     info.err = prepare(&errors);
-    info.client_data = static_cast<Session*>(this);
+    info.client_data = static_cast<Codec*>(this);
   }
   Writer(const Writer&) = delete;
   ~Writer() { jpeg_destroy_compress(&info); }
