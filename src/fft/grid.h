@@ -128,8 +128,8 @@ public:
     if (from.isContiguous()) return loadPairs<V>(from.re(j));
     f32 buffer[2 * L];
     for (s64 i = 0; i < L; ++i) {
-      buffer[2 * i] = read<f32>(from.re(j + i));
-      buffer[2 * i + 1] = read<f32>(from.im(j + i));
+      buffer[2 * i] = simd::loadOne(from.re(j + i));
+      buffer[2 * i + 1] = simd::loadOne(from.im(j + i));
     }
     return loadPairs<V>(buffer);
   }

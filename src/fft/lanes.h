@@ -15,13 +15,7 @@ namespace {
 using simd::Vec;
 
 template <class T>
-RNX_INLINE T read(const void* p) {  // images may start at any address
-  T value;
-  std::memcpy(&value, p, sizeof(T));
-  return value;
-}
-template <class T>
-RNX_INLINE void write(void* p, T value) {
+RNX_INLINE void write(void* p, T value) {  // images may start at any address
   std::memcpy(p, &value, sizeof(T));
 }
 
@@ -30,7 +24,7 @@ struct Single {
   f32 raw;
 
   static RNX_INLINE Single splat(f32 v) { return {v}; }
-  static RNX_INLINE Single load(const f32* p) { return {read<f32>(p)}; }
+  static RNX_INLINE Single load(const f32* p) { return {simd::loadOne(p)}; }
   RNX_INLINE void store(f32* p) const { write(p, raw); }
 };
 

@@ -1,8 +1,8 @@
 // Products of packed spectra. In a row the complex numbers stand in pixel pairs from column 1: real parts in odd
 // columns, imaginary parts in even ones. Down the outer columns they stand in the same way from row 1.
 #include "core/image.h"
+#include "fft/lanes.h"
 #include "fft/multiply_kernels.h"
-#include "simd/vec.h"
 
 namespace rnx::fft {
 namespace {
@@ -78,12 +78,10 @@ private:
     }
   }
 
-  static void storeOne(f32* p, f32 value) { __builtin_memcpy(p, &value, sizeof(f32)); }  // at any address
-
   static void number(const f32* aRe, const f32* bRe, f32* re, const f32* aIm, const f32* bIm, f32* im) {
     const f32 ar = simd::loadOne(aRe), ai = simd::loadOne(aIm), br = simd::loadOne(bRe), bi = simd::loadOne(bIm);
-    storeOne(re, productRe<kConjugate>(ar, ai, br, bi));
-    storeOne(im, productIm<kConjugate>(ar, ai, br, bi));
+    write(re, productRe<kConjugate>(ar, ai, br, bi));
+    write(im, productIm<kConjugate>(ar, ai, br, bi));
   }
 
   // Real numbers in row 0 and, for even heights, in the last row; between them complex ones down the column.
@@ -94,7 +92,7 @@ private:
     const auto a = [&](s64 row, int c) { return at(call_.left, call_.leftStep, row, c); };
     const auto b = [&](s64 row, int c) { return at(call_.right, call_.rightStep, row, c); };
     const auto d = [&](s64 row, int c) { return at(call_.dst, call_.dstStep, row, c); };
-    const auto real = [&](s64 row, int c) { storeOne(d(row, c), simd::loadOne(a(row, c)) * simd::loadOne(b(row, c))); };
+    const auto real = [&](s64 row, int c) { write(d(row, c), simd::loadOne(a(row, c)) * simd::loadOne(b(row, c))); };
     const s64 h = call_.height;
     for (int c = 0; c < kUsed; ++c) {
       real(0, c);

@@ -136,7 +136,7 @@ private:
     }
     for (s64 x = 0; x < imageWidth; ++x) {
       for (int r = 0; r < L; ++r) {
-        to[x * kElement<V> + r] = read<f32>(core::at(call.src, rowOf(r) * call.srcStep, x * call.channels));
+        to[x * kElement<V> + r] = simd::loadOne(core::at(call.src, rowOf(r) * call.srcStep, x * call.channels));
       }
     }
   }
@@ -208,7 +208,7 @@ private:
     }
     buffer[0] = buffer[1] = 0;
     for (s64 i = start == 0 ? 2 : 0; i < 2 * L; ++i) {
-      buffer[i] = read<f32>(core::at(from, 0, (2 * start - 1 + i) * call.channels));
+      buffer[i] = simd::loadOne(core::at(from, 0, (2 * start - 1 + i) * call.channels));
     }
     return loadPairs<V>(buffer);
   }
@@ -240,9 +240,9 @@ private:
   void loadOuterColumns() const {
     const bool hasRight = imageWidth % 2 == 0;
     f32* src = const_cast<f32*>(call.src);
-    const auto left = [&](s64 row) RNX_LAMBDA { return read<f32>(outer(src, call.srcStep, row, false)); };
+    const auto left = [&](s64 row) RNX_LAMBDA { return simd::loadOne(outer(src, call.srcStep, row, false)); };
     const auto right = [&](s64 row)
-                           RNX_LAMBDA { return hasRight ? read<f32>(outer(src, call.srcStep, row, true)) : 0.0f; };
+                           RNX_LAMBDA { return hasRight ? simd::loadOne(outer(src, call.srcStep, row, true)) : 0.0f; };
     const auto put = [&](s64 l, f32 re, f32 im) RNX_LAMBDA {
       tile[l * kElement<V>] = re;
       tile[l * kElement<V> + L] = im;

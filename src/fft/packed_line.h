@@ -15,7 +15,7 @@ struct RealLine {
   s64 length;
 
   f32* at(s64 j) const { return core::at(first, j * step); }
-  f32 get(s64 j) const { return read<f32>(at(j)); }
+  f32 get(s64 j) const { return simd::loadOne(at(j)); }
   void put(s64 j, f32 v) const { write(at(j), v); }
   fc32 number(s64 k) const { return {get(2 * k - 1), get(2 * k)}; }
   void putNumber(s64 k, f32 re, f32 im) const {
