@@ -174,7 +174,8 @@ void reduce(const ReduceCall<T>& call) {
   }
   reducer.accumulator.deliver(call.results);
   if constexpr (std::is_same_v<Op, Sum> && std::is_same_v<T, s16>) {
-    for (int c = 0; c < C; ++c) call.results[c] -= 32768.0 * static_cast<f64>(call.width / C * call.height);
+    const s64 pixels = call.width / C * call.height;
+    for (int c = 0; c < C; ++c) call.results[c] -= 32768.0 * static_cast<f64>(pixels);
   }
 }
 
