@@ -13,8 +13,11 @@ extern "C" {
    ===================================
 
    Integer results are delivered as r * 2^-scaleFactor, where r is the exact result: rounded half to even, then saturated
-   to the type. A factor so large that every result rounds to 0 writes zeros. 32f results are those of IEEE 754 in single
-   precision, NaN and infinity included; nothing is scaled or saturated.
+   to the type. A factor so large that every result rounds to 0 writes zeros. The caller's floating-point control state has
+   no influence on them and is the same after the call.
+
+   32f results are those of IEEE 754 in single precision under the caller's control state, NaN and infinity included;
+   nothing is scaled or saturated. Of two operands that are NaN the result is one or the other, and not always the same.
 
    AC4 works on three channels and never changes the destination's fourth element. In place the image written is the
    second operand. Images may overlap in any way: the result is then that of a loop over the rows from the top and over

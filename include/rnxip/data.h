@@ -23,7 +23,8 @@ extern "C" {
 
        bit = src > threshold
 
-   A source that is not a number gives 0. Bits of the destination outside the ROI keep their values.
+   A source that is not a number gives 0. Bits of the destination outside the ROI keep their values. The caller's
+   floating-point control state has no influence and is the same after the call.
 
    Arguments
      pSrc, srcStep: source image: first pixel of the ROI and step in bytes
