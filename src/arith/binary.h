@@ -9,6 +9,7 @@
 #include "core/checks.h"
 #include "core/image.h"
 #include "data/fill.h"
+#include "simd/float_state.h"
 
 namespace rnx::arith {
 
@@ -34,6 +35,7 @@ constexpr int leftShift(int scaleFactor) {
 
 struct Add {
   static constexpr bool kChecksSteps = false, kRefusesZeroConstants = false;
+  using IntegerState = simd::NoFloatState;
 
   // The largest factor that leaves a non-zero sum: of 9 bits for 8u, 17 for 16u, and -65536 for 16s. The constant
   // forms of 16u stop one short of it.
@@ -54,6 +56,7 @@ struct Add {
 
 struct Sub {
   static constexpr bool kChecksSteps = false, kRefusesZeroConstants = false;
+  using IntegerState = simd::NoFloatState;
 
   template <class T, RightOperand R>
   static constexpr int kLargestFactor = sizeof(T) == 1 ? 8 : 16;
@@ -70,6 +73,7 @@ struct Sub {
 
 struct Mul {
   static constexpr bool kChecksSteps = false, kRefusesZeroConstants = false;
+  using IntegerState = simd::NoFloatState;
 
   // 255^2 has 16 bits, 65535^2 has 32; 2^30, the largest product of 16s, is a tie at 31, which goes to 0.
   template <class T, RightOperand R>
@@ -87,6 +91,8 @@ struct Mul {
 
 struct Div {
   static constexpr bool kChecksSteps = true, kRefusesZeroConstants = true;
+  using IntegerState =
+      simd::FloatState;  // integers are divided in floating point, 0 / 0 and inexact quotients included
 
   // Division by 0 has its own result at every factor, so no factor is too large for the kernel.
   template <class T, RightOperand R>
@@ -176,6 +182,7 @@ RnxStatus images(const T* src1, int src1Step, const T* src2, int src2Step, T* ds
   const auto choice = Op::template choose<T, RightOperand::kImage>(kernels<T>(call.rows.bytesMoved), scaleFactor);
   if (choice.forms == nullptr) return data::fillZero<L>(dst, dstStep, roi);
   call.shift = choice.shift;
+  [[maybe_unused]] const typename Op::IntegerState state;
   return runImages<L>(*choice.forms, call);
 }
 
@@ -204,6 +211,7 @@ RnxStatus divideRounded(const T* src1, int src1Step, const T* src2, int src2Step
   const IntegerKernels<T>& k = kernels<T>(call.rows.bytesMoved);
   const BinaryForms<T>* const byMode[2][3] = {{&k.divZero, &k.divEven, &k.divAway},
                                               {&k.divZeroLeft, &k.divEvenLeft, &k.divAwayLeft}};
+  const Div::IntegerState state;
   return runImages<L>(*byMode[scaleFactor < 0][roundMode], call);
 }
 
@@ -240,6 +248,7 @@ RnxStatus constant(const T* src, int srcStep, Constant<T, L> value, T* dst, int 
   const s64 bytesMoved = 2 * s64{roi.width} * roi.height * L::kChannels * static_cast<s64>(sizeof(T));
   const auto choice = Op::template choose<T, RightOperand::kConstant>(kernels<T>(bytesMoved), scaleFactor);
   if (choice.forms == nullptr) return data::fillZero<L>(dst, dstStep, roi);
+  [[maybe_unused]] const typename Op::IntegerState state;
   return runConstant<L>(*choice.forms, src, srcStep, values, dst, dstStep, roi, choice.shift,
                         divisionFactor(scaleFactor));
 }

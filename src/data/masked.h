@@ -45,7 +45,9 @@ RnxStatus setMasked(Constant<T, L> value, T* dst, int dstStep, RnxiSize roi, con
   if (core::anyNull(values, dst, mask)) return rnxStatusNullPointer;
   if (core::empty(roi)) return rnxStatusBadSize;
 
-  runMasked<L, T>(nullptr, 0, values, dst, dstStep, roi, mask, maskStep);
+  T all[4] = {};  // the caller's array may lie in the image
+  for (int i = 0; i < L::kUsed; ++i) all[i] = values[i];
+  runMasked<L, T>(nullptr, 0, all, dst, dstStep, roi, mask, maskStep);
   return rnxStatusNoError;
 }
 
