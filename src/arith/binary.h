@@ -154,18 +154,16 @@ RnxStatus runConstant(const BinaryForms<T>& forms, const T* src, int srcStep, co
                       RnxiSize roi, int shift, f32 factor) {
   T all[4] = {1, 1, 1, 1};
   std::copy(values, values + L::kUsed, all);
-  const s64 width = s64{roi.width} * L::kChannels;
-  const BinaryCall<T> call = {
-      .rows = core::planRows(width, roi.height, core::operand(dst, dstStep, width), core::operand(src, srcStep, width)),
-      .left = src,
-      .leftStep = srcStep,
-      .right = all,
-      .rightStep = 0,
-      .period = L::kChannels,
-      .dst = dst,
-      .dstStep = dstStep,
-      .shift = shift,
-      .factor = factor};
+  const BinaryCall<T> call = {.rows = core::planRowsOf<L>(src, srcStep, dst, dstStep, roi),
+                              .left = src,
+                              .leftStep = srcStep,
+                              .right = all,
+                              .rightStep = 0,
+                              .period = L::kChannels,
+                              .dst = dst,
+                              .dstStep = dstStep,
+                              .shift = shift,
+                              .factor = factor};
   return run(core::kHasAlpha<L> ? forms.constantAlpha : forms.constant, call);
 }
 
@@ -215,19 +213,7 @@ RnxStatus divideRounded(const T* src1, int src1Step, const T* src2, int src2Step
   return runImages<L>(*byMode[scaleFactor < 0][roundMode], call);
 }
 
-// ---- An image and a constant: a value for C1, otherwise an array with one value per channel that is used ----
-
-template <class T, class L>
-using Constant = std::conditional_t<L::kChannels == 1, T, const T*>;
-
-template <class T>
-const T* valuesOf(const T& value) {
-  return &value;
-}
-template <class T>
-const T* valuesOf(const T* const& values) {
-  return values;
-}
+// ---- An image and a constant ----
 
 template <class Op, class L, class T>
 RnxStatus checkConstant(const T* src, const T* values, const T* dst, RnxiSize roi) {
@@ -240,9 +226,9 @@ RnxStatus checkConstant(const T* src, const T* values, const T* dst, RnxiSize ro
 }
 
 template <class Op, class T, class L>
-RnxStatus constant(const T* src, int srcStep, Constant<T, L> value, T* dst, int dstStep, RnxiSize roi,
+RnxStatus constant(const T* src, int srcStep, core::Constant<T, L> value, T* dst, int dstStep, RnxiSize roi,
                    int scaleFactor) {
-  const T* values = valuesOf<T>(value);
+  const T* values = core::valuesOf<T>(value);
   if (const RnxStatus status = checkConstant<Op, L>(src, values, dst, roi)) return status;
 
   const s64 bytesMoved = 2 * s64{roi.width} * roi.height * L::kChannels * static_cast<s64>(sizeof(T));
@@ -254,8 +240,9 @@ RnxStatus constant(const T* src, int srcStep, Constant<T, L> value, T* dst, int 
 }
 
 template <class Op, class L>
-RnxStatus constantFloat(const f32* src, int srcStep, Constant<f32, L> value, f32* dst, int dstStep, RnxiSize roi) {
-  const f32* values = valuesOf<f32>(value);
+RnxStatus constantFloat(const f32* src, int srcStep, core::Constant<f32, L> value, f32* dst, int dstStep,
+                        RnxiSize roi) {
+  const f32* values = core::valuesOf<f32>(value);
   if (const RnxStatus status = checkConstant<Op, L>(src, values, dst, roi)) return status;
 
   const s64 bytesMoved = 2 * s64{roi.width} * roi.height * L::kChannels * s64{sizeof(f32)};
@@ -281,12 +268,12 @@ RnxStatus divideRoundedInPlace(const T* src, int srcStep, T* srcDst, int srcDstS
 }
 
 template <class Op, class T, class L>
-RnxStatus constantInPlace(Constant<T, L> value, T* srcDst, int srcDstStep, RnxiSize roi, int scaleFactor) {
+RnxStatus constantInPlace(core::Constant<T, L> value, T* srcDst, int srcDstStep, RnxiSize roi, int scaleFactor) {
   return constant<Op, T, L>(srcDst, srcDstStep, value, srcDst, srcDstStep, roi, scaleFactor);
 }
 
 template <class Op, class L>
-RnxStatus constantFloatInPlace(Constant<f32, L> value, f32* srcDst, int srcDstStep, RnxiSize roi) {
+RnxStatus constantFloatInPlace(core::Constant<f32, L> value, f32* srcDst, int srcDstStep, RnxiSize roi) {
   return constantFloat<Op, L>(srcDst, srcDstStep, value, srcDst, srcDstStep, roi);
 }
 

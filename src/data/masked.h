@@ -40,8 +40,8 @@ RnxStatus copyMasked(const T* src, int srcStep, T* dst, int dstStep, RnxiSize ro
 }
 
 template <class T, class L>
-RnxStatus setMasked(Constant<T, L> value, T* dst, int dstStep, RnxiSize roi, const u8* mask, int maskStep) {
-  const T* values = valuesOf<T>(value);
+RnxStatus setMasked(core::Constant<T, L> value, T* dst, int dstStep, RnxiSize roi, const u8* mask, int maskStep) {
+  const T* values = core::valuesOf<T>(value);
   if (core::anyNull(values, dst, mask)) return rnxStatusNullPointer;
   if (core::empty(roi)) return rnxStatusBadSize;
 
