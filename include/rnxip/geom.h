@@ -191,7 +191,7 @@ RnxStatus rnxiResizeGetBufferSize_L(const RnxiResizeSpec* pSpec, const RnxiSizeL
 
    Checks, in this order
      rnxStatusNullPointer: a pointer is null (all are tested together)
-     rnxStatusBadContext: not a spec of these functions, or one for another element type
+     rnxStatusBadContext: not a spec of these functions; one for another element type is accepted
 
    Example
        RnxiBorderSize border;
@@ -217,7 +217,7 @@ RnxStatus rnxiResizeGetBorderSize_L(const RnxiResizeSpec* pSpec, RnxiBorderSize*
 
    Checks, in this order
      rnxStatusNullPointer: a pointer is null (all are tested together)
-     rnxStatusBadContext: not a spec of these functions, or one for another element type
+     rnxStatusBadContext: not a spec of these functions; one for another element type is accepted
 
    Example: that of rnxiResizeLinear */
 
@@ -243,7 +243,7 @@ RnxStatus rnxiResizeGetSrcOffset_L(const RnxiResizeSpec* pSpec, RnxiPointL dstOf
    Checks, in this order
      rnxStatusNullPointer: a pointer is null (all are tested together)
      rnxStatusBadSize: a width or height is below 1
-     rnxStatusBadContext: not a spec of these functions, or one for another element type
+     rnxStatusBadContext: not a spec of these functions; one for another element type is accepted
      rnxStatusOutOfRange: offset negative, or not below the size of the whole destination
 
    Example
