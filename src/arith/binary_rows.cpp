@@ -386,7 +386,7 @@ private:
 
 struct AddFloat : NoDivision<f32> {
   using NoDivision::NoDivision;
-  RNX_INLINE Vec<f32> operator()(Vec<f32> a, Vec<f32> b) const { return a + b; }
+  RNX_INLINE Vec<f32> operator()(Vec<f32> a, Vec<f32> b) const { return addInOrder(a, b); }
 };
 
 struct SubFloat : NoDivision<f32> {
@@ -396,7 +396,7 @@ struct SubFloat : NoDivision<f32> {
 
 struct MulFloat : NoDivision<f32> {
   using NoDivision::NoDivision;
-  RNX_INLINE Vec<f32> operator()(Vec<f32> a, Vec<f32> b) const { return a * b; }
+  RNX_INLINE Vec<f32> operator()(Vec<f32> a, Vec<f32> b) const { return multiplyInOrder(a, b); }
 };
 
 template <class Channels>

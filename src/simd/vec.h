@@ -121,6 +121,24 @@ RNX_INLINE Vec<T> inRegister(Vec<T> v) {
   return v;
 }
 
+// Sum and product of which the compiler may not exchange the operands: where neither is a number the result is the
+// first one, at every width and in every part of a row.
+#if RNX_VECTOR_BYTES == 32
+#define RNX_IN_ORDER(operation, a, b) __asm__("v" operation " %2, %1, %0" : "=x"(result.raw) : "x"(a.raw), "x"(b.raw))
+#else
+#define RNX_IN_ORDER(operation, a, b) __asm__(operation " %2, %0" : "=x"(result.raw) : "0"(a.raw), "x"(b.raw))
+#endif
+RNX_INLINE Vec<f32> addInOrder(Vec<f32> a, Vec<f32> b) {
+  Vec<f32> result;
+  RNX_IN_ORDER("addps", a, b);
+  return result;
+}
+RNX_INLINE Vec<f32> multiplyInOrder(Vec<f32> a, Vec<f32> b) {
+  Vec<f32> result;
+  RNX_IN_ORDER("mulps", a, b);
+  return result;
+}
+
 // The integer type as wide as T: comparisons give all ones or zeros of it.
 template <int Size>
 struct MaskOf;
