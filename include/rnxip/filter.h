@@ -33,7 +33,7 @@ extern "C" {
 
    Results for integer images are rounded by the rounding mode given to the Init function (toward zero, to nearest with
    ties to even, to nearest with ties away from zero), then saturated. Integer quotients are exact: they are rounded once.
-   A negative integer sum gives 0 for 8u.
+   A negative integer sum gives 0 for 8u. Floating-point sums follow the caller's control state.
 
    Border types: rnxBorderRepl, rnxBorderMirror or rnxBorderConst, which say what stands in for the pixels that the kernel
    reads outside the ROI, together with any of the flags rnxBorderInMemTop, Bottom, Left and Right: pixels on a flagged

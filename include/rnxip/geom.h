@@ -33,7 +33,8 @@ extern "C" {
        linear    x = (i + 0.5) * S / D - 0.5;  index = floor(x), fraction = x - index
 
    in double precision, and S / D rounded once. A spec and a buffer may have any address; a spec is read only after Init and
-   may serve any number of threads. Source, destination, spec and buffer may not overlap. Nothing is allocated.
+   may serve any number of threads. Source, destination, spec and buffer may not overlap. Nothing is allocated. Computing in
+   floating point, which Init and the linear 32f and 64f forms do, follows the caller's control state.
 
    The functions that end in _L take sizes and offsets of 64 bits, up to 33554431, and specs of their own. Sizes of 0 are
    answered by +1 rnxStatusWarningNoOperation, and nothing is written. */
