@@ -14,13 +14,9 @@ constexpr s64 alignUp(s64 bytes) { return core::roundUp(bytes, core::kSpecAlignm
 
 // ---- Roots of unity ----
 
-struct Root {
-  f64 re, im;
-};
-
 // exp(-2 pi i k / n), with the angle reduced to an eighth of the circle in integers: good to the last bit or so of
 // double precision, so that storing it as single rounds correctly but for rare ties.
-Root rootOf(s64 k, s64 n) {
+fc64 rootOf(s64 k, s64 n) {
   k %= n;
   const s64 octant = 8 * k / n, rest = 8 * k - octant * n;
   const s64 reduced = octant % 2 == 1 ? n - rest : rest;
@@ -31,7 +27,7 @@ Root rootOf(s64 k, s64 n) {
   return {octant >= 2 && octant < 6 ? -a : a, octant >= 4 ? b : -b};
 }
 
-Root operator*(Root a, Root b) { return {a.re * b.re - a.im * b.im, a.re * b.im + a.im * b.re}; }
+fc64 operator*(fc64 a, fc64 b) { return {a.re * b.re - a.im * b.im, a.re * b.im + a.im * b.re}; }
 
 // ---- Choice of radices ----
 
@@ -139,7 +135,7 @@ Choice choose(s64 length) {
 // Room that a transform needs, its input and output included.
 s64 tileElements(s64 length) {
   const Choice choice = choose(length);
-  return choice.method == Method::kRotation ? 2 * length - 1 : std::max(length, choice.size);
+  return std::max(length, choice.size);
 }
 
 // ---- The block ----
@@ -166,13 +162,15 @@ private:
   s64 used_;
 };
 
-void store(fc32* p, Root r) { *p = {static_cast<f32>(r.re), static_cast<f32>(r.im)}; }
+void store(fc32* p, fc64 r) { *p = {static_cast<f32>(r.re), static_cast<f32>(r.im)}; }
+void store(fc64* p, fc64 r) { *p = r; }
 
+template <class Factor>
 void writeTwiddles(const Plan& plan, Block& block) {
   s64 blockSize = plan.size;
   for (int pass = 0; pass < plan.passCount; ++pass) {
     const s64 radix = plan.radix[pass], butterflies = blockSize / radix;
-    fc32* out = block.table<fc32>(plan.twiddles[pass]);
+    Factor* out = block.table<Factor>(plan.twiddles[pass]);
     if (radix > kLargestButterfly) {
       for (s64 k = 0; k < radix; ++k) store(out++, rootOf(k, radix));
     }
@@ -197,18 +195,18 @@ s64 positionOf(const Plan& plan, s64 k) {
 }
 
 // The passes of the plan, in double precision and by the definition; roots[k] = exp(-2 pi i k / size).
-void transformExactly(const Plan& plan, const Root* roots, Root* x) {
+void transformExactly(const Plan& plan, const fc64* roots, fc64* x) {
   s64 blockSize = plan.size;
   for (int pass = 0; pass < plan.passCount; ++pass) {
     const s64 radix = plan.radix[pass], part = blockSize / radix, turns = plan.size / blockSize;
     for (s64 i = 0; i < plan.size; ++i) {
       if (i % blockSize >= part) continue;  // i is the first point of a butterfly
-      Root in[kLargestRadix];
+      fc64 in[kLargestRadix];
       for (s64 r = 0; r < radix; ++r) in[r] = x[i + r * part];
       for (s64 q = 0; q < radix; ++q) {
-        Root sum = {0, 0};
+        fc64 sum = {0, 0};
         for (s64 r = 0; r < radix; ++r) {
-          const Root term = in[r] * roots[r * q % radix * (plan.size / radix)];
+          const fc64 term = in[r] * roots[r * q % radix * (plan.size / radix)];
           sum = {sum.re + term.re, sum.im + term.im};
         }
         x[i + q * part] = sum * roots[i % blockSize * q * turns];
@@ -220,61 +218,77 @@ void transformExactly(const Plan& plan, const Root* roots, Root* x) {
 
 void writeChirp(const Plan& plan, Block& block, void* init) {
   const s64 n = plan.length, size = plan.size;
-  Root* x = static_cast<Root*>(init);
-  Root* roots = x + size;
+  fc64* x = static_cast<fc64*>(init);
+  fc64* roots = x + size;
   for (s64 k = 0; k < size; ++k) {
     x[k] = {0, 0};
     roots[k] = rootOf(k, size);
   }
-  fc32* chirp = block.table<fc32>(plan.chirp);
+  fc64* chirp = block.table<fc64>(plan.chirp);
+  s32* positions = block.table<s32>(plan.positions);
   for (s64 j = 0; j < n; ++j) {
-    const Root c = rootOf(j * j % (2 * n), 2 * n);
-    store(chirp + j, c);
-    x[j] = {c.re, -c.im};
+    positions[j] = static_cast<s32>(j == 0 ? 0 : size - j);
+    chirp[j] = rootOf(j * j % (2 * n), 2 * n);
+    x[j] = {chirp[j].re, -chirp[j].im};
     if (j > 0) x[size - j] = x[j];
   }
   transformExactly(plan, roots, x);
-  fc32* filter = block.table<fc32>(plan.filter);
+  fc64* filter = block.table<fc64>(plan.filter);
   const f64 scale = 1.0 / static_cast<f64>(size);  // of the way back
-  for (s64 k = 0; k < size; ++k) store(filter + k, {x[k].re * scale, x[k].im * scale});
+  for (s64 k = 0; k < size; ++k) filter[k] = {x[k].re * scale, x[k].im * scale};
 }
 
-// y_m = w^(g^m), transformed, read backwards and divided by the size (see spec.h).
+// One place of each cycle of more than one, then 0: place r + 1 receives element powers[r]. What was visited is marked
+// by a negative sign.
+void writeCycles(s32* powers, s64 size, s32* cycles) {
+  for (s64 first = 1; first <= size; ++first) {
+    const s32 source = powers[first - 1];
+    if (source > 0 && source != first) *cycles++ = static_cast<s32>(first);
+    for (s64 place = first; powers[place - 1] > 0;) {
+      const s32 next = powers[place - 1];
+      powers[place - 1] = -next;
+      place = next;
+    }
+  }
+  *cycles = 0;
+  for (s64 r = 0; r < size; ++r) powers[r] = -powers[r];
+}
+
+// y_m = w^(g^m), transformed, read backwards and divided by the size: the transform of x, times this and transformed
+// once more, is the correlation (see spec.h).
 void writeRotation(const Plan& plan, Block& block, void* init) {
   const s64 prime = plan.length, size = plan.size, g = primitiveRoot(prime);
-  Root* x = static_cast<Root*>(init);
-  Root* roots = x + size;
+  fc64* y = static_cast<fc64*>(init);
+  fc64* roots = y + size;
   s32* powers = block.table<s32>(plan.powers);
-  s32* order = block.table<s32>(plan.order);
   s32* positions = block.table<s32>(plan.positions);
-  positions[0] = static_cast<s32>(prime);
+  positions[0] = 0;
   for (s64 m = 0, power = 1; m < size; ++m, power = power * g % prime) {
     powers[m] = static_cast<s32>(power);
-    order[m] = static_cast<s32>(positionOf(plan, m));
-    positions[power] = order[m];
-    x[m] = rootOf(power, prime);
+    positions[power] = static_cast<s32>(1 + m);
+    y[m] = rootOf(power, prime);
     roots[m] = rootOf(m, size);
   }
-  transformExactly(plan, roots, x);
-  fc32* filter = block.table<fc32>(plan.filter);
+  writeCycles(powers, size, block.table<s32>(plan.cycles));
+  transformExactly(plan, roots, y);
+  fc64* filter = block.table<fc64>(plan.filter);
+  const f64 scale = 1.0 / static_cast<f64>(size);
   for (s64 k = 0; k < size; ++k) {
-    const Root y = x[order[(size - k) % size]];
-    store(filter + k, {y.re / static_cast<f64>(size), y.im / static_cast<f64>(size)});
+    const fc64 backwards = y[positionOf(plan, (size - k) % size)];
+    filter[positionOf(plan, k)] = {backwards.re * scale, backwards.im * scale};
   }
 }
 
-s64 initBytes(const Plan& plan) { return plan.method == Method::kPasses ? 0 : 2 * s64{sizeof(Root)} * plan.size; }
+s64 initBytes(const Plan& plan) { return plan.method == Method::kPasses ? 0 : 2 * s64{sizeof(fc64)} * plan.size; }
 
 void writePlan(const Plan& plan, Block& block, void* init) {
-  writeTwiddles(plan, block);
   s32* positions = block.table<s32>(plan.positions);
-  if (plan.method == Method::kRotation) {
-    writeRotation(plan, block, init);
+  if (plan.method == Method::kPasses) {
+    writeTwiddles<fc32>(plan, block);
+    for (s64 k = 0; k < plan.length; ++k) positions[k] = static_cast<s32>(positionOf(plan, k));
   } else {
-    // The way back of a convolution restores the natural order.
-    const bool isChirp = plan.method == Method::kChirp;
-    for (s64 k = 0; k < plan.length; ++k) positions[k] = static_cast<s32>(isChirp ? k : positionOf(plan, k));
-    if (isChirp) writeChirp(plan, block, init);
+    writeTwiddles<fc64>(plan, block);
+    (plan.method == Method::kRotation ? writeRotation : writeChirp)(plan, block, init);
   }
   positions[plan.length] = positions[0];
 }
@@ -286,20 +300,21 @@ Plan makePlan(s64 length, Block& block, void* init) {
   plan.method = choice.method;
   plan.size = static_cast<s32>(choice.size);
   plan.passCount = choice.factors.count;
+  const s64 factorBytes = choice.method == Method::kPasses ? sizeof(fc32) : sizeof(fc64);
   s64 blockSize = choice.size;
   for (int pass = 0; pass < choice.factors.count; ++pass) {
     const s64 radix = choice.factors.radix[pass];
     plan.radix[pass] = choice.factors.radix[pass];
     blockSize /= radix;
     const s64 roots = radix > kLargestButterfly ? radix : 0;
-    plan.twiddles[pass] = block.reserve((roots + (blockSize > 1 ? blockSize * (radix - 1) : 0)) * s64{sizeof(fc32)});
+    plan.twiddles[pass] = block.reserve((roots + (blockSize > 1 ? blockSize * (radix - 1) : 0)) * factorBytes);
   }
   plan.positions = block.reserve((length + 1) * s64{sizeof(s32)});
-  if (plan.method != Method::kPasses) plan.filter = block.reserve(choice.size * s64{sizeof(fc32)});
-  if (plan.method == Method::kChirp) plan.chirp = block.reserve(length * s64{sizeof(fc32)});
+  if (plan.method != Method::kPasses) plan.filter = block.reserve(choice.size * factorBytes);
+  if (plan.method == Method::kChirp) plan.chirp = block.reserve(length * factorBytes);
   if (plan.method == Method::kRotation) {
     plan.powers = block.reserve(choice.size * s64{sizeof(s32)});
-    plan.order = block.reserve(choice.size * s64{sizeof(s32)});
+    plan.cycles = block.reserve((choice.size / 2 + 1) * s64{sizeof(s32)});
   }
   if (block.writes()) writePlan(plan, block, init);
   return plan;

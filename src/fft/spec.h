@@ -11,6 +11,10 @@ inline constexpr int kMaxPasses = 30;  // radix 2 alone reaches 2^28
 inline constexpr int kLargestButterfly = 8;  // radices up to here are unrolled
 inline constexpr int kLargestRadix = 61;     // larger primes have methods of their own
 
+struct fc64 {
+  f64 re, im;
+};
+
 // How a length is transformed.
 enum class Method : s32 {
   kPasses,    // its prime factors are all small
@@ -25,6 +29,8 @@ enum class Method : s32 {
 //   X_(g^m) = x_0 + sum over r of x_(g^r) w^(g^(r+m)),   w = exp(-2 pi i / p)
 // Chirp: a circular convolution whose size is chosen freely:
 //   X_k = c_k * sum over j of (x_j c_j) * conj(c_(k-j)),   c_j = exp(-pi i j^2 / length)
+// Both go there and back through the passes, where ordinary lengths go once. They compute in double precision, with
+// factors in double precision, and round what they leave in the tile: so their errors stay below those of the others.
 struct Plan {
   s32 length;
   Method method;
@@ -34,9 +40,8 @@ struct Plan {
   u32 twiddles[kMaxPasses];  // offset per pass: factors of outputs 1 ... radix - 1, for each butterfly of a block;
                              // before them, for radices that are not unrolled, the roots of unity
   u32 positions;             // s32 for outputs 0 ... length, where the passes leave them; the last is the first again
-  u32 filter;                // what spectra are multiplied by, size numbers: of rotations in natural order, of chirps
-                             // in the order of the passes
-  u32 powers, order;         // kRotation: s32 g^r modulo p, and where the passes leave output k of their own
+  u32 filter;                // what spectra are multiplied by, size numbers in the order of the passes
+  u32 powers, cycles;        // kRotation: s32 g^r modulo p; one place of each cycle of that permutation, then 0
   u32 chirp;                 // kChirp: c_j
 };
 
