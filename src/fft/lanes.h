@@ -137,25 +137,7 @@ RNX_INLINE Complex<V> splatFactor(const Factor<V>* p) {
   return {V::splat(p->re), V::splat(p->im)};
 }
 
-// ---- Single in the shapes of simd/transpose.h ----
-
-template <class V>
-inline constexpr int kGroup = V::kLanes < 4 ? 1 : 4;  // columns that are transposed at a time
-
-template <class Row>
-RNX_INLINE void loadColumns(Row row, Single (&column)[1]) {
-  column[0] = Single::load(row(0));
-}
-template <class Row>
-RNX_INLINE void storeColumns(Row row, Single (&column)[1]) {
-  column[0].store(row(0));
-}
-
-template <class V>
-RNX_INLINE constexpr int pairedElement(int lane) {
-  if constexpr (V::kLanes == 1) return 0;
-  return simd::pairedElement(lane);
-}
+// ---- Complex numbers in memory, real and imaginary part side by side ----
 
 template <class V>
 RNX_INLINE Complex<V> loadPairs(const f32* p) {
@@ -178,6 +160,8 @@ RNX_INLINE void storePairs(f32* p, Complex<V> x) {
     second.store(p + V::kLanes);
   }
 }
+
+RNX_INLINE Single reversed(Single v) { return v; }
 
 }  // namespace
 }  // namespace rnx::fft

@@ -50,7 +50,7 @@ public:
         V re[G], im[G], reB[G], imB[G];
         unroll<0, G>([&](auto index) RNX_LAMBDA {
           constexpr int i = decltype(index)::value;
-          const s64 k = start + pairedElement<V>(group.value * G + i);
+          const s64 k = start + simd::pairedElement(group.value * G + i);
           const Complex<V> z = outputs[k];
           if (k == 0) {
             const V factor = V::splat(scale);
@@ -107,7 +107,7 @@ public:
         loadGroup(strip, group.value, pairs, 1, reB, imB);
         unroll<0, G>([&](auto index) RNX_LAMBDA {
           constexpr int i = decltype(index)::value;
-          const s64 k = start + pairedElement<V>(group.value * G + i);
+          const s64 k = start + simd::pairedElement(group.value * G + i);
           if (k == 0) {
             this->storeInput(0, Complex<V>{re[i], reB[i]});
             if (imageWidth % 2 == 0) this->storeInput(imageWidth / 2, Complex<V>{im[i], imB[i]});
@@ -179,14 +179,12 @@ private:
   RNX_INLINE void storePacked(s64 row, s64 start, Complex<V> x) const {
     f32* to = core::at(call.dst, row * call.dstStep);
     if (call.channels == 1 && start > 0) return storePairs(to + 2 * start - 1, x);
-    if constexpr (L > 1) {
-      if (call.channels == 1) {
-        V first, second;
-        simd::interleave(x.re, x.im, first, second);
-        storeBehindPair(to - 1, first);
-        second.store(to - 1 + L);
-        return;
-      }
+    if (call.channels == 1) {
+      V first, second;
+      simd::interleave(x.re, x.im, first, second);
+      storeBehindPair(to - 1, first);
+      second.store(to - 1 + L);
+      return;
     }
     f32 buffer[2 * L];
     storePairs(buffer, x);
@@ -199,12 +197,10 @@ private:
     const f32* from = core::at(call.src, row * call.srcStep);
     if (call.channels == 1 && start > 0) return loadPairs<V>(from + 2 * start - 1);
     f32 buffer[2 * L];
-    if constexpr (L > 1) {
-      if (call.channels == 1) {
-        simd::loadBehindPair(from - 1).store(buffer);
-        V::load(from - 1 + L).store(buffer + L);
-        return loadPairs<V>(buffer);
-      }
+    if (call.channels == 1) {
+      simd::loadBehindPair(from - 1).store(buffer);
+      V::load(from - 1 + L).store(buffer + L);
+      return loadPairs<V>(buffer);
     }
     buffer[0] = buffer[1] = 0;
     for (s64 i = start == 0 ? 2 : 0; i < 2 * L; ++i) {

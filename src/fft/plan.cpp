@@ -121,21 +121,21 @@ struct Choice {
   Method method;
   s64 size;
   Factors factors;
+  s64 parts = 1;
 };
 
-Choice choose(s64 length) {
+constexpr s64 kScarceParts = 8;
+
+Choice choose(s64 length, bool isScarce) {
   const Factors own = factorsOf(length);
   if (own.cost < INFINITY) return {Method::kPasses, length, own};
-  const Factors rotation = factorsOf(length - 1);
-  if (rotation.cost < INFINITY && isPrime(length)) return {Method::kRotation, length - 1, rotation};
-  const s64 size = convolutionSize(2 * length - 1);
-  return {Method::kChirp, size, factorsOf(size)};
-}
-
-// Room that a transform needs, its input and output included.
-s64 tileElements(s64 length) {
-  const Choice choice = choose(length);
-  return std::max(length, choice.size);
+  const s64 parts = isScarce ? kScarceParts : 1;
+  if (!isScarce && isPrime(length)) {
+    const Factors rotation = factorsOf(length - 1);
+    if (rotation.cost < INFINITY) return {Method::kRotation, length - 1, rotation};
+  }
+  const s64 size = convolutionSize((2 * length - 1 + parts - 1) / parts);
+  return {Method::kChirp, size, factorsOf(size), parts};
 }
 
 // ---- The block ----
@@ -217,25 +217,35 @@ void transformExactly(const Plan& plan, const fc64* roots, fc64* x) {
 }
 
 void writeChirp(const Plan& plan, Block& block, void* init) {
-  const s64 n = plan.length, size = plan.size;
-  fc64* x = static_cast<fc64*>(init);
-  fc64* roots = x + size;
-  for (s64 k = 0; k < size; ++k) {
-    x[k] = {0, 0};
-    roots[k] = rootOf(k, size);
-  }
+  const s64 n = plan.length, size = plan.size, whole = size * plan.parts;
   fc64* chirp = block.table<fc64>(plan.chirp);
   s32* positions = block.table<s32>(plan.positions);
   for (s64 j = 0; j < n; ++j) {
-    positions[j] = static_cast<s32>(j == 0 ? 0 : size - j);
     chirp[j] = rootOf(j * j % (2 * n), 2 * n);
-    x[j] = {chirp[j].re, -chirp[j].im};
-    if (j > 0) x[size - j] = x[j];
+    positions[j] = static_cast<s32>(plan.parts > 1 || j == 0 ? j : size - j);
   }
-  transformExactly(plan, roots, x);
-  fc64* filter = block.table<fc64>(plan.filter);
-  const f64 scale = 1.0 / static_cast<f64>(size);  // of the way back
-  for (s64 k = 0; k < size; ++k) filter[k] = {x[k].re * scale, x[k].im * scale};
+  fc64* x = static_cast<fc64*>(init);
+  fc64* roots = x + size;
+  for (s64 k = 0; k < size; ++k) roots[k] = rootOf(k, size);
+  if (plan.parts > 1) {
+    for (s64 k = 0; k < whole; ++k) block.table<fc64>(plan.turns)[k] = rootOf(k, whole);
+  }
+  const f64 scale = 1.0 / static_cast<f64>(whole);  // of the way back
+  for (s64 part = 0; part < plan.parts; ++part) {
+    for (s64 i = 0; i < size; ++i) {
+      x[i] = {0, 0};
+      for (s64 j = i; j < whole; j += size) {
+        const s64 distance = std::min(j, whole - j);
+        if (distance >= n) continue;
+        const fc64 c = {chirp[distance].re, -chirp[distance].im};
+        const fc64 term = part == 0 ? c : c * rootOf(part * j, whole);
+        x[i] = {x[i].re + term.re, x[i].im + term.im};
+      }
+    }
+    transformExactly(plan, roots, x);
+    fc64* filter = block.table<fc64>(plan.filter) + part * size;
+    for (s64 k = 0; k < size; ++k) filter[k] = {x[k].re * scale, x[k].im * scale};
+  }
 }
 
 // One place of each cycle of more than one, then 0: place r + 1 receives element powers[r]. What was visited is marked
@@ -293,12 +303,13 @@ void writePlan(const Plan& plan, Block& block, void* init) {
   positions[plan.length] = positions[0];
 }
 
-Plan makePlan(s64 length, Block& block, void* init) {
-  const Choice choice = choose(length);
+Plan makePlan(s64 length, bool isScarce, Block& block, void* init) {
+  const Choice choice = choose(length, isScarce);
   Plan plan = {};
   plan.length = static_cast<s32>(length);
   plan.method = choice.method;
   plan.size = static_cast<s32>(choice.size);
+  plan.parts = static_cast<s32>(choice.parts);
   plan.passCount = choice.factors.count;
   const s64 factorBytes = choice.method == Method::kPasses ? sizeof(fc32) : sizeof(fc64);
   s64 blockSize = choice.size;
@@ -310,8 +321,9 @@ Plan makePlan(s64 length, Block& block, void* init) {
     plan.twiddles[pass] = block.reserve((roots + (blockSize > 1 ? blockSize * (radix - 1) : 0)) * factorBytes);
   }
   plan.positions = block.reserve((length + 1) * s64{sizeof(s32)});
-  if (plan.method != Method::kPasses) plan.filter = block.reserve(choice.size * factorBytes);
+  if (plan.method != Method::kPasses) plan.filter = block.reserve(choice.size * choice.parts * factorBytes);
   if (plan.method == Method::kChirp) plan.chirp = block.reserve(length * factorBytes);
+  if (choice.parts > 1) plan.turns = block.reserve(choice.size * choice.parts * factorBytes);
   if (plan.method == Method::kRotation) {
     plan.powers = block.reserve(choice.size * s64{sizeof(s32)});
     plan.cycles = block.reserve((choice.size / 2 + 1) * s64{sizeof(s32)});
@@ -350,52 +362,65 @@ s64 complexBytes(s64 points) { return std::min(points, s64{1} << 40) * kComplexB
 
 s64 imageBytes(const Spec& spec) { return complexBytes(s64{spec.width} * spec.height) / (spec.isReal != 0 ? 2 : 1); }
 
-void shapeLine(Spec& spec) {
-  const s64 length = std::max(spec.width, spec.height);
-  const bool halved = spec.isReal != 0 && length % 2 == 0;
-  const s64 points = halved ? length / 2 : length;
-  spec.lineBytes = halved ? alignUp(points * kComplexBytes) : 0;
-  const s64 rows = lineRows(points);
-  if (rows == 1 || (spec.isReal != 0 && !halved)) {
-    spec.shape = Shape::kShort;
-    spec.gridWidth = static_cast<s32>(points);
-    spec.gridHeight = 1;
-    spec.stripBytes = 0;
-    spec.tileBytes = alignUp(tileElements(points) * kComplexBytes);
-    return;
+// Whether work memory of this size is no burden: on the stack, or at most twice the image and two rows.
+bool isFair(const Spec& spec, s64 bytes) {
+  return bytes <= kStackWork || reported(bytes) <= 2 * imageBytes(spec) + 2 * imageBytes(spec) / spec.height;
+}
+
+// Room that a transform needs, its input and output included. In parts that is the output and one of them; the output
+// of real lines of odd length is half as long.
+s64 tileBytes(const Spec& spec, s64 length) {
+  const Choice choice = choose(length, spec.isScarce != 0);
+  if (choice.parts == 1) return complexBytes(std::max(length, choice.size));
+  const bool isLone = spec.isReal != 0 && spec.isLine() && !spec.isHalved();
+  return complexBytes((isLone ? (length + 1) / 2 : length) + choice.size);
+}
+
+// One sequence at a time.
+void shapeSeries(Spec& spec, Shape shape, s64 rowLength, s64 columnLength) {
+  spec.shape = shape;
+  spec.gridWidth = static_cast<s32>(rowLength);
+  spec.gridHeight = static_cast<s32>(columnLength);
+  spec.stripBytes = 0;
+  for (const bool isScarce : {false, true}) {
+    spec.isScarce = isScarce ? 1 : 0;
+    spec.tileBytes = alignUp(std::max(tileBytes(spec, rowLength), tileBytes(spec, columnLength)));
+    if (isFair(spec, spec.tileBytes)) return;
   }
+}
+
+void shapeLine(Spec& spec) {
+  const s64 length = std::max(spec.width, spec.height), points = spec.isHalved() ? length / 2 : length;
+  const s64 rows = lineRows(points);
+  if (rows == 1 || (spec.isReal != 0 && !spec.isHalved())) return shapeSeries(spec, Shape::kShort, points, 1);
   // Columns of the grid are transformed first. They become the rows of the result.
   spec.shape = Shape::kLine;
   spec.gridWidth = static_cast<s32>(rows);
   spec.gridHeight = static_cast<s32>(points / rows);
   const s64 paddedWidth = (rows + kMostLanes - 1) / kMostLanes * kMostLanes;
-  spec.stripBytes = alignUp(paddedWidth * spec.gridHeight * kComplexBytes);
-  spec.tileBytes = alignUp(kMostLanes * std::max(spec.gridWidth, spec.gridHeight) * kComplexBytes);
+  spec.stripBytes = alignUp(complexBytes(paddedWidth * spec.gridHeight));
+  spec.tileBytes = alignUp(complexBytes(kMostLanes * std::max(spec.gridWidth, spec.gridHeight)));
 }
 
-// Vectors want rows and columns enough to fill them, and work memory: where that would pass twice the image and two
-// rows, one row or column at a time is the thriftier way.
+// Vectors want rows and columns enough to fill them, and work memory: where that would be unfair, one row or column at
+// a time is the thriftier way.
 void shapeImage(Spec& spec) {
   const s64 width = spec.width, height = spec.height;
   const bool isReal = spec.isReal != 0;
+  spec.shape = Shape::kGrid;
   spec.gridWidth = static_cast<s32>(isReal ? (width + 1) / 2 : width);
   spec.gridHeight = static_cast<s32>(height);
-  const s64 longest = std::max(tileElements(width), tileElements(height));
   const s64 paddedWidth = (spec.gridWidth + kMostLanes - 1) / kMostLanes * kMostLanes;
   spec.stripBytes = alignUp(complexBytes(paddedWidth * height));
-  spec.tileBytes = alignUp(kMostLanes * longest * kComplexBytes);
-  const s64 need = spec.stripBytes + spec.tileBytes, limit = 2 * imageBytes(spec) + 2 * imageBytes(spec) / height;
+  spec.tileBytes = alignUp(kMostLanes * std::max(tileBytes(spec, width), tileBytes(spec, height)));
   const s64 leastRows = isReal ? 2 * kMostLanes : kMostLanes;
-  spec.shape = Shape::kGrid;
-  if (height >= leastRows && spec.gridWidth >= kMostLanes && need <= std::max(limit, kStackWork)) return;
-  spec.shape = Shape::kNarrow;
-  spec.stripBytes = alignUp(complexBytes(spec.gridWidth * height));
-  spec.tileBytes = alignUp(longest * kComplexBytes);
+  const bool fills = height >= leastRows && spec.gridWidth >= kMostLanes;
+  if (!fills || !isFair(spec, spec.stripBytes + spec.tileBytes)) shapeSeries(spec, Shape::kNarrow, width, height);
 }
 
 // What the caller provides: nothing where the stack has room.
 s64 workBytes(const Spec& spec) {
-  const s64 bytes = spec.stripBytes + spec.lineBytes + spec.tileBytes;
+  const s64 bytes = spec.stripBytes + spec.tileBytes;
   return bytes <= kStackWork ? 0 : bytes;
 }
 
@@ -424,27 +449,26 @@ s64 fill(const Request& request, Spec& spec, Block& block, void* init) {
   spec.inverseX = scaleOf(request.flag, kDivideInverse, width);
   spec.inverseY = scaleOf(request.flag, kDivideInverse, height);
 
-  const bool isLine = width == 1 || height == 1;
-  if (isLine) {
+  if (spec.isLine()) {
     shapeLine(spec);
   } else {
     shapeImage(spec);
   }
   spec.workSize = static_cast<s32>(std::min<s64>(workBytes(spec), INT32_MAX));
 
-  const s32 rowLength = isLine ? spec.gridWidth : width, columnLength = spec.gridHeight;
-  spec.plans[0] = makePlan(rowLength, block, init);
+  const s32 rowLength = spec.isLine() ? spec.gridWidth : width, columnLength = spec.gridHeight;
+  spec.plans[0] = makePlan(rowLength, spec.isScarce != 0, block, init);
   s64 initSize = initBytes(spec.plans[0]);
   if (columnLength != rowLength) {
     spec.columnPlan = 1;
-    spec.plans[1] = makePlan(columnLength, block, init);
+    spec.plans[1] = makePlan(columnLength, spec.isScarce != 0, block, init);
     initSize = std::max(initSize, initBytes(spec.plans[1]));
   }
   if (spec.shape == Shape::kLine) {
     spec.lineTwiddles = block.reserve(s64{spec.gridWidth} * spec.gridHeight * kComplexBytes);
     if (block.writes()) writeLineTwiddles(spec, block);
   }
-  if (isLine && request.isReal && std::max(width, height) % 2 == 0) {
+  if (spec.isHalved()) {
     const s64 length = std::max(width, height), count = length / 4 + 1;
     spec.halfTwiddles = block.reserve(count * kComplexBytes);
     fc32* out = block.writes() ? block.table<fc32>(spec.halfTwiddles) : nullptr;

@@ -31,24 +31,27 @@ enum class Method : s32 {
 //   X_k = c_k * sum over j of (x_j c_j) * conj(c_(k-j)),   c_j = exp(-pi i j^2 / length)
 // Both go there and back through the passes, where ordinary lengths go once. They compute in double precision, with
 // factors in double precision, and round what they leave in the tile: so their errors stay below those of the others.
+// Where work memory is scarce, the chirp's convolution is done in parts, one after the other (parts.h).
 struct Plan {
   s32 length;
   Method method;
-  s32 size;  // of the passes: length; length - 1; or at least 2 length - 1
+  s32 size;  // of the passes: length; length - 1; or, times parts, at least 2 length - 1
+  s32 parts;
   s32 passCount;
   s32 radix[kMaxPasses];
   u32 twiddles[kMaxPasses];  // offset per pass: factors of outputs 1 ... radix - 1, for each butterfly of a block;
                              // before them, for radices that are not unrolled, the roots of unity
   u32 positions;             // s32 for outputs 0 ... length, where the passes leave them; the last is the first again
-  u32 filter;                // what spectra are multiplied by, size numbers in the order of the passes
-  u32 powers, cycles;        // kRotation: s32 g^r modulo p; one place of each cycle of that permutation, then 0
-  u32 chirp;                 // kChirp: c_j
+  u32 filter;          // what spectra are multiplied by, size numbers in the order of the passes; one for each part
+  u32 powers, cycles;  // kRotation: s32 g^r modulo p; one place of each cycle of that permutation, then 0
+  u32 chirp;           // kChirp: c_j
+  u32 turns;           // kChirp in parts: exp(-2 pi i k / (size parts))
 };
 
 // How the image is walked.
 enum class Shape : s32 {
   kGrid,    // rows, then columns, as many at a time as a vector has lanes
-  kNarrow,  // the same, one at a time: an image of few rows or columns
+  kNarrow,  // the same, one at a time and in the destination: an image of few rows or columns
   kLine,    // one row or column of composite length, as the columns and rows of a grid
   kShort    // one row or column at a time
 };
@@ -68,8 +71,13 @@ struct Spec {
   Plan plans[2];
   u32 lineTwiddles;  // kLine: exp(-2 pi i k n / length) in row k and column n of the grid
   u32 halfTwiddles;  // real lines of even length: exp(-2 pi i k / length) for k up to a quarter
-  // Work memory: the grid between the axes, in strips; the half-length transform of a real line; one tile.
-  s64 stripBytes, lineBytes, tileBytes;
+  // Work memory: the grid between the axes, in strips; one tile.
+  s64 stripBytes, tileBytes;
+  s32 isScarce;  // work memory: chirps go in parts
+
+  bool isLine() const { return width == 1 || height == 1; }
+  // Real lines of even length are transformed as half as many complex numbers.
+  bool isHalved() const { return isReal != 0 && isLine() && width * s64{height} % 2 == 0; }
 
   template <class T>
   const T* table(u32 offset) const {
