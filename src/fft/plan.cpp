@@ -86,13 +86,6 @@ s64 convolutionSize(s64 least) {
   return bestSize;
 }
 
-bool isPrime(s64 n) {
-  for (s64 d = 2; d * d <= n; ++d) {
-    if (n % d == 0) return false;
-  }
-  return n > 1;
-}
-
 s64 powerModulo(s64 base, s64 exponent, s64 modulus) {
   s64 power = 1;
   for (; exponent > 0; exponent /= 2) {
@@ -126,11 +119,22 @@ struct Choice {
 
 constexpr s64 kScarceParts = 8;
 
-Choice choose(s64 length, bool isScarce) {
+s64 smallestFactor(s64 n) {
+  for (s64 d = 2; d * d <= n; ++d) {
+    if (n % d == 0) return d;
+  }
+  return n;
+}
+
+Choice choose(const Spec& spec, s64 length) {
   const Factors own = factorsOf(length);
-  if (own.cost < INFINITY) return {Method::kPasses, length, own};
+  const bool isScarce = spec.isScarce != 0;
+  if (own.cost < INFINITY) {
+    const s64 parts = isScarce && spec.isLone() ? smallestFactor(length) : 1;
+    return {Method::kPasses, length / parts, parts == 1 ? own : factorsOf(length / parts), parts};
+  }
   const s64 parts = isScarce ? kScarceParts : 1;
-  if (!isScarce && isPrime(length)) {
+  if (!isScarce && smallestFactor(length) == length) {
     const Factors rotation = factorsOf(length - 1);
     if (rotation.cost < INFINITY) return {Method::kRotation, length - 1, rotation};
   }
@@ -222,14 +226,11 @@ void writeChirp(const Plan& plan, Block& block, void* init) {
   s32* positions = block.table<s32>(plan.positions);
   for (s64 j = 0; j < n; ++j) {
     chirp[j] = rootOf(j * j % (2 * n), 2 * n);
-    positions[j] = static_cast<s32>(plan.parts > 1 || j == 0 ? j : size - j);
+    if (plan.parts == 1) positions[j] = static_cast<s32>(j == 0 ? 0 : size - j);
   }
   fc64* x = static_cast<fc64*>(init);
   fc64* roots = x + size;
   for (s64 k = 0; k < size; ++k) roots[k] = rootOf(k, size);
-  if (plan.parts > 1) {
-    for (s64 k = 0; k < whole; ++k) block.table<fc64>(plan.turns)[k] = rootOf(k, whole);
-  }
   const f64 scale = 1.0 / static_cast<f64>(whole);  // of the way back
   for (s64 part = 0; part < plan.parts; ++part) {
     for (s64 i = 0; i < size; ++i) {
@@ -292,10 +293,17 @@ void writeRotation(const Plan& plan, Block& block, void* init) {
 s64 initBytes(const Plan& plan) { return plan.method == Method::kPasses ? 0 : 2 * s64{sizeof(fc64)} * plan.size; }
 
 void writePlan(const Plan& plan, Block& block, void* init) {
+  const bool inParts = plan.parts > 1;
   s32* positions = block.table<s32>(plan.positions);
+  if (inParts) {
+    const s64 whole = s64{plan.size} * plan.parts;
+    for (s64 k = 0; k < whole; ++k) block.table<fc64>(plan.turns)[k] = rootOf(k, whole);
+    for (s64 k = 0; k < plan.length; ++k) positions[k] = static_cast<s32>(k);
+  }
   if (plan.method == Method::kPasses) {
     writeTwiddles<fc32>(plan, block);
-    for (s64 k = 0; k < plan.length; ++k) positions[k] = static_cast<s32>(positionOf(plan, k));
+    s32* order = inParts ? block.table<s32>(plan.order) : positions;
+    for (s64 k = 0; k < plan.size; ++k) order[k] = static_cast<s32>(positionOf(plan, k));
   } else {
     writeTwiddles<fc64>(plan, block);
     (plan.method == Method::kRotation ? writeRotation : writeChirp)(plan, block, init);
@@ -303,8 +311,8 @@ void writePlan(const Plan& plan, Block& block, void* init) {
   positions[plan.length] = positions[0];
 }
 
-Plan makePlan(s64 length, bool isScarce, Block& block, void* init) {
-  const Choice choice = choose(length, isScarce);
+Plan makePlan(const Spec& spec, s64 length, Block& block, void* init) {
+  const Choice choice = choose(spec, length);
   Plan plan = {};
   plan.length = static_cast<s32>(length);
   plan.method = choice.method;
@@ -323,7 +331,10 @@ Plan makePlan(s64 length, bool isScarce, Block& block, void* init) {
   plan.positions = block.reserve((length + 1) * s64{sizeof(s32)});
   if (plan.method != Method::kPasses) plan.filter = block.reserve(choice.size * choice.parts * factorBytes);
   if (plan.method == Method::kChirp) plan.chirp = block.reserve(length * factorBytes);
-  if (choice.parts > 1) plan.turns = block.reserve(choice.size * choice.parts * factorBytes);
+  if (choice.parts > 1) {
+    plan.turns = block.reserve(choice.size * choice.parts * s64{sizeof(fc64)});
+    if (choice.method == Method::kPasses) plan.order = block.reserve(choice.size * s64{sizeof(s32)});
+  }
   if (plan.method == Method::kRotation) {
     plan.powers = block.reserve(choice.size * s64{sizeof(s32)});
     plan.cycles = block.reserve((choice.size / 2 + 1) * s64{sizeof(s32)});
@@ -370,10 +381,9 @@ bool isFair(const Spec& spec, s64 bytes) {
 // Room that a transform needs, its input and output included. In parts that is the output and one of them; the output
 // of real lines of odd length is half as long.
 s64 tileBytes(const Spec& spec, s64 length) {
-  const Choice choice = choose(length, spec.isScarce != 0);
+  const Choice choice = choose(spec, length);
   if (choice.parts == 1) return complexBytes(std::max(length, choice.size));
-  const bool isLone = spec.isReal != 0 && spec.isLine() && !spec.isHalved();
-  return complexBytes((isLone ? (length + 1) / 2 : length) + choice.size);
+  return complexBytes((spec.isLone() ? (length + 1) / 2 : length) + choice.size);
 }
 
 // One sequence at a time.
@@ -392,7 +402,7 @@ void shapeSeries(Spec& spec, Shape shape, s64 rowLength, s64 columnLength) {
 void shapeLine(Spec& spec) {
   const s64 length = std::max(spec.width, spec.height), points = spec.isHalved() ? length / 2 : length;
   const s64 rows = lineRows(points);
-  if (rows == 1 || (spec.isReal != 0 && !spec.isHalved())) return shapeSeries(spec, Shape::kShort, points, 1);
+  if (rows == 1 || spec.isLone()) return shapeSeries(spec, Shape::kShort, points, 1);
   // Columns of the grid are transformed first. They become the rows of the result.
   spec.shape = Shape::kLine;
   spec.gridWidth = static_cast<s32>(rows);
@@ -457,11 +467,11 @@ s64 fill(const Request& request, Spec& spec, Block& block, void* init) {
   spec.workSize = static_cast<s32>(std::min<s64>(workBytes(spec), INT32_MAX));
 
   const s32 rowLength = spec.isLine() ? spec.gridWidth : width, columnLength = spec.gridHeight;
-  spec.plans[0] = makePlan(rowLength, spec.isScarce != 0, block, init);
+  spec.plans[0] = makePlan(spec, rowLength, block, init);
   s64 initSize = initBytes(spec.plans[0]);
   if (columnLength != rowLength) {
     spec.columnPlan = 1;
-    spec.plans[1] = makePlan(columnLength, spec.isScarce != 0, block, init);
+    spec.plans[1] = makePlan(spec, columnLength, block, init);
     initSize = std::max(initSize, initBytes(spec.plans[1]));
   }
   if (spec.shape == Shape::kLine) {

@@ -29,6 +29,7 @@ public:
         parts_(*call.spec, plan),
         length_(plan.length),
         inParts_(plan.parts > 1),
+        isChirp_(plan.method == Method::kChirp),
         inverse_(call.inverse),
         tile_(call.work) {}
 
@@ -97,13 +98,22 @@ public:
       return;
     }
     clear(length_);
-    parts_.run(load, length_, tile_ + length_ + 1, [&](s64 j, Complex<Precise<Single>> x) RNX_LAMBDA {
-      (Precise<Single>::load(tile_ + j) + x.re).store(tile_ + j);
-    });
+    f32* const part = tile_ + length_ + 1;
+    const auto add = [&](s64 j, P x) RNX_LAMBDA { (P::load(tile_ + j) + x).store(tile_ + j); };
+    if (isChirp_) {
+      parts_.chirp([&](s64 k) RNX_LAMBDA { return widened(load(k)); }, length_, part,
+                   [&](s64 j, Complex<P> x) RNX_LAMBDA { add(j, x.re); });
+    } else {
+      parts_.halfToReal(load, part, add);
+    }
     for (s64 j = 0; j < length_; ++j) to.put(j, tile_[j] * scale);
   }
 
 private:
+  using P = Precise<Single>;
+
+  static RNX_INLINE Complex<P> widened(Complex<Single> x) { return {{x.re.raw}, {x.im.raw}}; }
+
   Outputs<Single> outputs(Direction direction) const { return transform_.outputs(tile_, direction); }
 
   void clear(s64 floats) const {
@@ -118,16 +128,18 @@ private:
       transform_.run(tile_, tile_);
       return;
     }
+    f32* const part = tile_ + 2 * count;
+    const auto wide = [&](s64 j) RNX_LAMBDA { return widened(load(j)); };
+    const auto put = [&](s64 k, Complex<P> x) RNX_LAMBDA { storeElement(tile_ + 2 * k, x); };
+    if (!isChirp_) return parts_.realToHalf(wide, part, put);
     clear(2 * count);
-    parts_.run(load, count, tile_ + 2 * count, [&](s64 k, Complex<Precise<Single>> x) RNX_LAMBDA {
-      storeElement(tile_ + 2 * k, loadElement<Precise<Single>>(tile_ + 2 * k) + x);
-    });
+    parts_.chirp(wide, count, part, [&](s64 k, Complex<P> x) RNX_LAMBDA { put(k, loadElement<P>(tile_ + 2 * k) + x); });
   }
 
   const Transform<Single> transform_;
-  const ChirpInParts parts_;
+  const Parts parts_;
   const s64 length_;
-  const bool inParts_, inverse_;
+  const bool inParts_, isChirp_, inverse_;
   f32* const tile_;
 };
 

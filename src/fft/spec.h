@@ -31,11 +31,12 @@ enum class Method : s32 {
 //   X_k = c_k * sum over j of (x_j c_j) * conj(c_(k-j)),   c_j = exp(-pi i j^2 / length)
 // Both go there and back through the passes, where ordinary lengths go once. They compute in double precision, with
 // factors in double precision, and round what they leave in the tile: so their errors stay below those of the others.
-// Where work memory is scarce, the chirp's convolution is done in parts, one after the other (parts.h).
+// Where work memory is scarce, the chirp's convolution is done in parts, one after the other, and so is the transform
+// of a real line of odd length (parts.h).
 struct Plan {
   s32 length;
   Method method;
-  s32 size;  // of the passes: length; length - 1; or, times parts, at least 2 length - 1
+  s32 size;  // of the passes, times parts: length; length - 1; at least 2 length - 1
   s32 parts;
   s32 passCount;
   s32 radix[kMaxPasses];
@@ -45,7 +46,8 @@ struct Plan {
   u32 filter;          // what spectra are multiplied by, size numbers in the order of the passes; one for each part
   u32 powers, cycles;  // kRotation: s32 g^r modulo p; one place of each cycle of that permutation, then 0
   u32 chirp;           // kChirp: c_j
-  u32 turns;           // kChirp in parts: exp(-2 pi i k / (size parts))
+  u32 turns;           // in parts: exp(-2 pi i k / (size parts))
+  u32 order;           // kPasses in parts: s32 as positions, of a part; there the positions are in natural order
 };
 
 // How the image is walked.
@@ -73,11 +75,13 @@ struct Spec {
   u32 halfTwiddles;  // real lines of even length: exp(-2 pi i k / length) for k up to a quarter
   // Work memory: the grid between the axes, in strips; one tile.
   s64 stripBytes, tileBytes;
-  s32 isScarce;  // work memory: chirps go in parts
+  s32 isScarce;  // work memory: transforms go in parts where they can
 
   bool isLine() const { return width == 1 || height == 1; }
   // Real lines of even length are transformed as half as many complex numbers.
   bool isHalved() const { return isReal != 0 && isLine() && width * s64{height} % 2 == 0; }
+  // Those of odd length have no partner.
+  bool isLone() const { return isReal != 0 && isLine() && !isHalved(); }
 
   template <class T>
   const T* table(u32 offset) const {
