@@ -22,14 +22,10 @@ public:
   // load(1) ... `part` has room for plan.size numbers here and below.
   template <class Load, class Add>
   void chirp(Load load, s64 outputs, f32* part, Add add) const {
-    const Passes<P> passes(spec_, plan_);
+    const Convolution<Single> convolution(spec_, plan_);
     for (s64 t = 0; t < count_; ++t) {
       fold([&](s64 j) RNX_LAMBDA { return load(j) * factor(plan_.chirp, j); }, t, part);
-      passes.inFrequency(part, part);
-      for (s64 k = 0; k < size_; ++k) {
-        storeElement(part + 2 * k, loadElement<P>(part + 2 * k) * factor(plan_.filter, t * size_ + k));
-      }
-      passes.inTime(part);
+      convolution.run(part, spec_.table<fc64>(plan_.filter) + t * size_);
       s64 turn = 0, place = 0;  // back by forward transforms: the order is turned round
       for (s64 k = 0; k < outputs; ++k) {
         const Complex<P> w = factor(plan_.turns, turn), x = loadElement<P>(part + 2 * place);
@@ -79,7 +75,7 @@ private:
   s64 wrapped(s64 turn) const { return turn < whole_ ? turn : turn - whole_; }
   RNX_INLINE Complex<P> factor(u32 table, s64 k) const { return splatFactor<P>(spec_.table<fc64>(table) + k); }
 
-  void runPasses(f32* part) const { Passes<Single>(spec_, plan_).inFrequency(part, part); }
+  void runPasses(f32* part) const { Passes<Single>(spec_, plan_).run(part, part); }
   RNX_INLINE Complex<P> output(const f32* part, s64 q) const {
     return loadElement<P>(part + 2 * spec_.table<s32>(plan_.order)[q]);
   }

@@ -64,6 +64,24 @@ void passInPlace(const f32*, f32* tile, s64 blockSize, s64 blocks, const Factor<
   pass<V, R, kWhere>(tile, tile, blockSize, blocks, factors);
 }
 
+// The last pass of a convolution there, its factors, and the first one back: single butterflies both.
+template <class V>
+using FilterPass = void (*)(f32* tile, s64 blocks, const Factor<V>* filter);
+
+template <class V, int R>
+void filterPass(f32* tile, s64 blocks, const Factor<V>* filter) {
+  for (s64 block = 0; block < blocks; ++block) {
+    Points<V, R> x;
+    unroll<0, R>([&](auto r) RNX_LAMBDA { x.set(r.value, loadElement<V>(tile + r.value * kElement<V>)); });
+    Butterfly<R>::apply(x);
+    unroll<0, R>([&](auto r) RNX_LAMBDA { x.set(r.value, x[r.value] * splatFactor<V>(filter + r.value)); });
+    Butterfly<R>::apply(x);
+    unroll<0, R>([&](auto r) RNX_LAMBDA { storeElement(tile + r.value * kElement<V>, x[r.value]); });
+    tile += R * kElement<V>;
+    filter += R;
+  }
+}
+
 // Odd primes beyond the unrolled butterflies, by the same symmetric halves (see butterfly.h). The factors begin with
 // the roots exp(-2 pi i k / prime).
 template <class V, Twiddles kWhere>
@@ -108,19 +126,24 @@ void primePass(const f32* src, f32* dst, s64 blockSize, s64 blocks, const Factor
   }
 }
 
+// Transforms begin apart from the tile; convolutions work in it and come back.
 template <class V>
 struct PassesOf {
-  Pass<V> last, inFrequency, lastApart, inFrequencyApart, inTime;
+  Pass<V> last, inFrequency, lastApart, inFrequencyApart;
+};
+template <class V>
+struct PassesOf<Precise<V>> {
+  Pass<Precise<V>> inFrequency, inTime;
+  FilterPass<Precise<V>> filter;
 };
 
-// Transforms begin apart from the tile; convolutions work in it and come back.
 template <class V, int R>
 inline constexpr PassesOf<V> kPassesOf = {passInPlace<V, R, Twiddles::kNone>, passInPlace<V, R, Twiddles::kAfter>,
-                                          passApart<V, R, Twiddles::kNone>, passApart<V, R, Twiddles::kAfter>, nullptr};
+                                          passApart<V, R, Twiddles::kNone>, passApart<V, R, Twiddles::kAfter>};
 template <class V, int R>
-inline constexpr PassesOf<Precise<V>> kPassesOf<Precise<V>, R> = {
-    passInPlace<Precise<V>, R, Twiddles::kNone>, passInPlace<Precise<V>, R, Twiddles::kAfter>, nullptr, nullptr,
-    passInPlace<Precise<V>, R, Twiddles::kBefore>};
+inline constexpr PassesOf<Precise<V>> kPassesOf<Precise<V>, R> = {passInPlace<Precise<V>, R, Twiddles::kAfter>,
+                                                                  passInPlace<Precise<V>, R, Twiddles::kBefore>,
+                                                                  filterPass<Precise<V>, R>};
 
 // By radix.
 template <class V>
@@ -134,35 +157,31 @@ inline constexpr PassesOf<V> kPassesByRadix[kLargestButterfly + 1] = {{},
                                                                       kPassesOf<V, 7>,
                                                                       kPassesOf<V, 8>};
 
-// All passes of a plan.
+// All passes of a plan, from natural order to that of the positions. src is the tile itself or apart from it.
 template <class V>
 class Passes {
 public:
   Passes(const Spec& spec, const Plan& plan) : spec_(spec), plan_(plan) {}
 
-  // From natural order to that of the positions. src is the tile itself or apart from it.
-  void inFrequency(const f32* src, f32* tile) const { inFrequency(0, src, tile, plan_.size, 1); }
-  // The transposed passes in opposite order: from the order of the positions to the natural one.
-  void inTime(f32* tile) const { inTime(0, tile, plan_.size); }
+  void run(const f32* src, f32* tile) const { run(0, src, tile, plan_.size, 1); }
 
 private:
   static constexpr s64 kElementBytes = kElement<V> * s64{sizeof(f32)};
 
-  const Factor<V>* factorsOf(int level) const { return spec_.table<Factor<V>>(plan_.twiddles[level]); }
-
   // The passes from `level` for `blocks` blocks of blockSize elements.
-  void inFrequency(int level, const f32* src, f32* tile, s64 blockSize, s64 blocks) const {
+  void run(int level, const f32* src, f32* tile, s64 blockSize, s64 blocks) const {
     for (; level < plan_.passCount; ++level) {
       const s32 radix = plan_.radix[level];
       const bool last = level + 1 == plan_.passCount;
+      const Factor<V>* factors = spec_.table<Factor<V>>(plan_.twiddles[level]);
       if (radix > kLargestButterfly) {
-        const auto run = last ? primePass<V, Twiddles::kNone> : primePass<V, Twiddles::kAfter>;
-        run(src, tile, blockSize, blocks, factorsOf(level), radix);
+        const auto pass = last ? primePass<V, Twiddles::kNone> : primePass<V, Twiddles::kAfter>;
+        pass(src, tile, blockSize, blocks, factors, radix);
       } else {
         const PassesOf<V>& passes = kPassesByRadix<V>[radix];
         const Pass<V> apart = last ? passes.lastApart : passes.inFrequencyApart;
         const Pass<V> inPlace = last ? passes.last : passes.inFrequency;
-        (src == tile ? inPlace : apart)(src, tile, blockSize, blocks, factorsOf(level));
+        (src == tile ? inPlace : apart)(src, tile, blockSize, blocks, factors);
       }
       const bool splits = blockSize * kElementBytes > kCachedBytes && blocks == 1 && !last;
       blockSize /= radix;
@@ -171,37 +190,91 @@ private:
       if (splits) {
         for (s64 b = 0; b < blocks; ++b) {
           f32* part = tile + b * blockSize * kElement<V>;
-          inFrequency(level + 1, part, part, blockSize, 1);
+          run(level + 1, part, part, blockSize, 1);
         }
         return;
       }
     }
   }
 
-  void inTime(int level, f32* tile, s64 blockSize) const {
-    const int last = plan_.passCount - 1;
-    if (level < last && blockSize * kElementBytes > kCachedBytes) {
-      const s64 part = blockSize / plan_.radix[level];
-      for (s64 r = 0; r < plan_.radix[level]; ++r) inTime(level + 1, tile + r * part * kElement<V>, part);
-      passInTime(level, tile, blockSize, 1);
-      return;
+  const Spec& spec_;
+  const Plan& plan_;
+};
+
+// The passes of a plan, the product with a filter in the order where they end, and the transposed passes in opposite
+// order, which end in natural order: the transform of the product. On both ways a part that fits the first cache stays
+// there.
+template <class V>
+class Convolution {
+public:
+  using P = Precise<V>;
+
+  Convolution(const Spec& spec, const Plan& plan) : spec_(spec), plan_(plan) {}
+
+  void run(f32* tile, const fc64* filter) const { run(0, tile, plan_.size, 1, filter, nullptr); }
+  // Adds the number at `first` to each result, and to it the sum of the tile.
+  void runAndAdd(f32* tile, const fc64* filter, f32* first) const { run(0, tile, plan_.size, 1, filter, first); }
+
+private:
+  static constexpr s64 kElementBytes = kElement<V> * s64{sizeof(f32)};
+
+  // From `level` on. `first`: of the first of all blocks only.
+  void run(int level, f32* tile, s64 blockSize, s64 blocks, const fc64* filter, f32* first) const {
+    const s32 radix = plan_.radix[level];
+    if (level + 1 == plan_.passCount) {
+      if (first != nullptr) {
+        runFirst(radix, tile, filter, first);
+        tile += radix * kElement<V>;
+        filter += radix;
+        --blocks;
+      }
+      return filterBlocks(radix, tile, blocks, filter);
     }
-    s64 size = 1;
-    for (int l = last; l >= level; --l) {
-      size *= plan_.radix[l];
-      passInTime(l, tile, size, blockSize / size);
+    const fc64* factors = spec_.table<fc64>(plan_.twiddles[level]);
+    const bool isPrime = radix > kLargestButterfly;
+    if (isPrime) {
+      primePass<P, Twiddles::kAfter>(tile, tile, blockSize, blocks, factors, radix);
+    } else {
+      kPassesByRadix<P>[radix].inFrequency(tile, tile, blockSize, blocks, factors);
+    }
+    const s64 part = blockSize / radix, parts = blocks * radix;
+    if (blockSize * kElementBytes > kCachedBytes) {
+      for (s64 i = 0; i < parts; ++i) {
+        run(level + 1, tile + i * part * kElement<V>, part, 1, filter + i * part, i == 0 ? first : nullptr);
+      }
+    } else {
+      run(level + 1, tile, part, parts, filter, first);
+    }
+    if (isPrime) {
+      primePass<P, Twiddles::kBefore>(tile, tile, blockSize, blocks, factors, radix);
+    } else {
+      kPassesByRadix<P>[radix].inTime(tile, tile, blockSize, blocks, factors);
     }
   }
 
-  void passInTime(int level, f32* tile, s64 blockSize, s64 blocks) const {
-    const bool last = level + 1 == plan_.passCount;
-    const s32 radix = plan_.radix[level];
-    if (radix > kLargestButterfly) {
-      const auto run = last ? primePass<V, Twiddles::kNone> : primePass<V, Twiddles::kBefore>;
-      return run(tile, tile, blockSize, blocks, factorsOf(level), radix);
+  void filterBlocks(s32 radix, f32* tile, s64 blocks, const fc64* filter) const {
+    if (radix <= kLargestButterfly) return kPassesByRadix<P>[radix].filter(tile, blocks, filter);
+    const fc64* roots = spec_.table<fc64>(plan_.twiddles[plan_.passCount - 1]);
+    const s64 size = blocks * radix;
+    primePass<P, Twiddles::kNone>(tile, tile, radix, blocks, roots, radix);
+    for (s64 k = 0; k < size; ++k) {
+      f32* p = tile + k * kElement<V>;
+      storeElement(p, loadElement<P>(p) * splatFactor<P>(filter + k));
     }
-    const PassesOf<V>& passes = kPassesByRadix<V>[radix];
-    (last ? passes.last : passes.inTime)(tile, tile, blockSize, blocks, factorsOf(level));
+    primePass<P, Twiddles::kNone>(tile, tile, radix, blocks, roots, radix);
+  }
+
+  // The first block of the last pass: its elements add up to the sum of the tile. What is added to each of its results
+  // reaches, by the passes back, each result of all.
+  void runFirst(s32 radix, f32* tile, const fc64* filter, f32* first) const {
+    Complex<P> sum = loadElement<P>(tile);
+    for (s32 r = 1; r < radix; ++r) sum = sum + loadElement<P>(tile + r * kElement<V>);
+    const Complex<P> x = loadElement<P>(first);
+    filterBlocks(radix, tile, 1, filter);
+    for (s32 r = 0; r < radix; ++r) {
+      storeElement(tile + r * kElement<V>, loadElement<P>(tile + r * kElement<V>) + x);
+    }
+    storeElement(first, x + sum);
   }
 
   const Spec& spec_;
@@ -239,7 +312,7 @@ public:
     } else if (plan_.passCount == 0) {
       storeElement(tile, loadElement<V>(src));
     } else {
-      Passes<V>(spec_, plan_).inFrequency(src, tile);
+      Passes<V>(spec_, plan_).run(src, tile);
     }
   }
 
@@ -256,8 +329,6 @@ private:
   RNX_INLINE void forEachPart(F f) const {
     for (s64 part = 0; part < V::kLanes; part += P::kAtOnce) f(part);
   }
-
-  RNX_INLINE Complex<P> factor(u32 table, s64 k) const { return splatFactor<P>(spec_.table<fc64>(table) + k); }
 
   // Place r + 1 of the tile receives input g^r. In place, each cycle of the permutation is followed once around.
   void permute(const f32* src, f32* tile) const {
@@ -280,39 +351,22 @@ private:
 
   // The inputs behind the first, in the order of the powers, become the outputs in that order.
   void rotate(f32* tile) const {
-    const Passes<P> passes(spec_, plan_);
-    f32* const rest = tile + kElement<V>;
-    passes.inFrequency(rest, rest);
-    const Complex<P> first = loadElement<P>(tile), sum = loadElement<P>(rest);
-    storeElement(tile, first + sum);
-    multiply(rest, 1);
-    storeElement(rest, sum * factor(plan_.filter, 0) + first);  // adds the first input to each of the outputs
-    passes.inTime(rest);
+    Convolution<V>(spec_, plan_).runAndAdd(tile + kElement<V>, spec_.table<fc64>(plan_.filter), tile);
   }
 
   // The second transform is a forward one too, where the convolution wants an inverse: it turns the order round, but
   // for element 0.
   void convolve(const f32* src, f32* tile) const {
-    const Passes<P> passes(spec_, plan_);
     const s64 length = plan_.length, size = plan_.size;
+    const fc64* chirp = spec_.table<fc64>(plan_.chirp);
     for (s64 j = 0; j < length; ++j) {
-      storeElement(tile + j * kElement<V>, loadElement<P>(src + j * kElement<V>) * factor(plan_.chirp, j));
+      storeElement(tile + j * kElement<V>, loadElement<P>(src + j * kElement<V>) * splatFactor<P>(chirp + j));
     }
     for (s64 j = length; j < size; ++j) storeElement(tile + j * kElement<V>, Complex<P>{P::splat(0), P::splat(0)});
-    passes.inFrequency(tile, tile);
-    multiply(tile, 0);
-    passes.inTime(tile);
+    Convolution<V>(spec_, plan_).run(tile, spec_.table<fc64>(plan_.filter));
     for (s64 k = 0; k < length; ++k) {
       f32* p = tile + positions_[k] * kElement<V>;
-      storeElement(p, loadElement<P>(p) * factor(plan_.chirp, k));
-    }
-  }
-
-  // A spectrum by the filter, from element `first`.
-  void multiply(f32* spectrum, s64 first) const {
-    for (s64 k = first; k < plan_.size; ++k) {
-      f32* p = spectrum + k * kElement<V>;
-      storeElement(p, loadElement<P>(p) * factor(plan_.filter, k));
+      storeElement(p, loadElement<P>(p) * splatFactor<P>(chirp + k));
     }
   }
 

@@ -1,7 +1,6 @@
 // Fourier transforms against their definition; what is known of large ones; specs and their memory.
 #include <algorithm>
 #include <numeric>
-#include <set>
 
 #include "ref/fft_model.h"
 #include "support/call.h"
