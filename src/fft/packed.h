@@ -85,16 +85,23 @@ public:
 
   // ---- Inverse ----
 
+  // Neighbouring strips share lines of the cache, which a tall image would evict from one strip to the next: a few are
+  // loaded together.
   void inverseColumns(f32 scale) const {
+    constexpr s64 kTogether = 4;
     const V factor = V::splat(scale);
     const Outputs<V> outputs = this->outputsOf(columns);
-    for (s64 strip = 0; strip < this->stripCount(); ++strip) {
-      const s64 start = this->stripStart(strip);
-      for (s64 l = 0; l < height; ++l) this->storeInput(l, loadPacked(l, start));
-      if (start == 0) loadOuterColumns();
-      columns.run(tile, tile);
-      for (s64 k = 0; k < height; ++k) {
-        storeElement(this->stripRow(strip, k), outputs[k] * factor);
+    for (s64 first = 0; first < this->stripCount(); first += kTogether) {
+      const s64 end = std::min(first + kTogether, this->stripCount());
+      for (s64 l = 0; l < height; ++l) {
+        for (s64 strip = first; strip < end; ++strip) {
+          storeElement(this->stripRow(strip, l), loadPacked(l, this->stripStart(strip)));
+        }
+      }
+      if (first == 0) loadOuterColumns();
+      for (s64 strip = first; strip < end; ++strip) {
+        columns.run(this->stripRow(strip, 0), tile);
+        for (s64 k = 0; k < height; ++k) storeElement(this->stripRow(strip, k), outputs[k] * factor);
       }
     }
   }
@@ -240,8 +247,9 @@ private:
     const auto right = [&](s64 row)
                            RNX_LAMBDA { return hasRight ? simd::loadOne(outer(src, call.srcStep, row, true)) : 0.0f; };
     const auto put = [&](s64 l, f32 re, f32 im) RNX_LAMBDA {
-      tile[l * kElement<V>] = re;
-      tile[l * kElement<V> + L] = im;
+      f32* to = this->stripRow(0, l);
+      to[0] = re;
+      to[L] = im;
     };
     put(0, left(0), right(0));
     for (s64 l = 1; 2 * l < height; ++l) {
