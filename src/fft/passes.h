@@ -302,7 +302,7 @@ public:
       : spec_(spec), plan_(plan), positions_(spec.table<s32>(plan.positions)) {}
 
   // Transforms a sequence of plan.length elements. src is the tile itself or apart from it. The tile has room for what
-  // tileElements() in plan.cpp says.
+  // tileBytes() in shape.cpp says.
   void run(const f32* src, f32* tile) const {
     if (plan_.method == Method::kRotation) {
       permute(src, tile);

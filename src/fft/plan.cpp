@@ -1,16 +1,14 @@
-// Planning of the transforms: radices, twiddle factors, chirps. The same walk measures a spec and writes it.
+// Planning of the transforms: twiddle factors, chirps, rotations. The same walk measures a spec and writes it.
 #include "fft/plan.h"
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
 
-#include "core/spec.h"
+#include "fft/lengths.h"
+#include "fft/shape.h"
 
 namespace rnx::fft {
 namespace {
-
-constexpr s64 alignUp(s64 bytes) { return core::roundUp(bytes, core::kSpecAlignment); }
 
 // ---- Roots of unity ----
 
@@ -28,63 +26,6 @@ fc64 rootOf(s64 k, s64 n) {
 }
 
 fc64 operator*(fc64 a, fc64 b) { return {a.re * b.re - a.im * b.im, a.re * b.im + a.im * b.re}; }
-
-// ---- Choice of radices ----
-
-struct Radix {
-  s32 points;
-  f32 cost;  // of one pass, per element; measured
-};
-
-constexpr Radix kRadices[] = {{61, 9.5f}, {59, 9.2f}, {53, 8.2f}, {47, 7.3f}, {43, 6.7f}, {41, 6.4f}, {37, 5.8f},
-                              {31, 4.9f}, {29, 4.6f}, {23, 3.9f}, {19, 3.6f}, {17, 3.5f}, {13, 2.9f}, {11, 2.6f},
-                              {8, 1.25f}, {7, 1.9f},  {6, 1.38f}, {5, 1.3f},  {4, 0.84f}, {3, 0.87f}, {2, 0.57f}};
-
-struct Factors {
-  f32 cost = INFINITY;
-  int count = 0;
-  s32 radix[kMaxPasses];
-};
-
-// The cheapest sequence of non-increasing radices; an infinite cost where a prime factor is not among them.
-void findFactors(s64 rest, size_t first, f32 cost, Factors& path, Factors& best) {
-  if (rest == 1) {
-    if (cost < best.cost) {
-      best = path;
-      best.cost = cost;
-    }
-    return;
-  }
-  for (size_t i = first; i < std::size(kRadices); ++i) {
-    const Radix r = kRadices[i];
-    if (rest % r.points != 0 || cost + r.cost >= best.cost) continue;
-    path.radix[path.count++] = r.points;
-    findFactors(rest / r.points, i, cost + r.cost, path, best);
-    --path.count;
-  }
-}
-
-Factors factorsOf(s64 n) {
-  Factors path, best;
-  findFactors(n, 0, 0, path, best);
-  return best;
-}
-
-// The size of a convolution of at least `least` points that costs least, among 2^k times a few odd numbers.
-s64 convolutionSize(s64 least) {
-  s64 bestSize = 0;
-  f64 bestCost = INFINITY;
-  for (const s64 odd : {1, 3, 5, 9, 15, 25, 27, 45, 75, 81, 125}) {
-    s64 size = odd;
-    while (size < least) size *= 2;
-    const f64 cost = static_cast<f64>(size) * static_cast<f64>(factorsOf(size).cost + 1);
-    if (cost < bestCost) {
-      bestCost = cost;
-      bestSize = size;
-    }
-  }
-  return bestSize;
-}
 
 s64 powerModulo(s64 base, s64 exponent, s64 modulus) {
   s64 power = 1;
@@ -107,39 +48,6 @@ s64 primitiveRoot(s64 prime) {
     }
     if (isRoot) return g;
   }
-}
-
-// How a length is transformed: the passes, or those of the size that stands for it.
-struct Choice {
-  Method method;
-  s64 size;
-  Factors factors;
-  s64 parts = 1;
-};
-
-constexpr s64 kScarceParts = 8;
-
-s64 smallestFactor(s64 n) {
-  for (s64 d = 2; d * d <= n; ++d) {
-    if (n % d == 0) return d;
-  }
-  return n;
-}
-
-Choice choose(const Spec& spec, s64 length) {
-  const Factors own = factorsOf(length);
-  const bool isScarce = spec.isScarce != 0;
-  if (own.cost < INFINITY) {
-    const s64 parts = isScarce && spec.isLone() ? smallestFactor(length) : 1;
-    return {Method::kPasses, length / parts, parts == 1 ? own : factorsOf(length / parts), parts};
-  }
-  const s64 parts = isScarce ? kScarceParts : 1;
-  if (!isScarce && smallestFactor(length) == length) {
-    const Factors rotation = factorsOf(length - 1);
-    if (rotation.cost < INFINITY) return {Method::kRotation, length - 1, rotation};
-  }
-  const s64 size = convolutionSize((2 * length - 1 + parts - 1) / parts);
-  return {Method::kChirp, size, factorsOf(size), parts};
 }
 
 // ---- The block ----
@@ -352,88 +260,6 @@ f32 scaleOf(s32 flag, s32 dividing, s32 n) {
   return flag == dividing ? 1.0f / static_cast<f32>(n) : 1.0f;
 }
 
-// ---- Shapes ----
-
-// Room for the widest vectors, whichever will run.
-constexpr s64 kMostLanes = 8;
-constexpr s64 kComplexBytes = sizeof(fc32);
-
-// A length of one row that is worth a grid: the largest divisor up to its square root, when both are at least a vector
-// long and have small prime factors only; else 1.
-s64 lineRows(s64 n) {
-  constexpr s64 kWorthAGrid = 1024;
-  if (n < kWorthAGrid || factorsOf(n).cost == INFINITY) return 1;
-  s64 divisor = static_cast<s64>(std::sqrt(static_cast<f64>(n)));
-  while (n % divisor != 0) --divisor;
-  return divisor >= 2 * kMostLanes ? divisor : 1;
-}
-
-// Products of two sizes pass 64 bits as bytes. They stop where no size can be reported any more.
-s64 complexBytes(s64 points) { return std::min(points, s64{1} << 40) * kComplexBytes; }
-
-s64 imageBytes(const Spec& spec) { return complexBytes(s64{spec.width} * spec.height) / (spec.isReal != 0 ? 2 : 1); }
-
-// Whether work memory of this size is no burden: on the stack, or at most twice the image and two rows.
-bool isFair(const Spec& spec, s64 bytes) {
-  return bytes <= kStackWork || reported(bytes) <= 2 * imageBytes(spec) + 2 * imageBytes(spec) / spec.height;
-}
-
-// Room that a transform needs, its input and output included. In parts that is the output and one of them; the output
-// of real lines of odd length is half as long.
-s64 tileBytes(const Spec& spec, s64 length) {
-  const Choice choice = choose(spec, length);
-  if (choice.parts == 1) return complexBytes(std::max(length, choice.size));
-  return complexBytes((spec.isLone() ? (length + 1) / 2 : length) + choice.size);
-}
-
-// One sequence at a time.
-void shapeSeries(Spec& spec, Shape shape, s64 rowLength, s64 columnLength) {
-  spec.shape = shape;
-  spec.gridWidth = static_cast<s32>(rowLength);
-  spec.gridHeight = static_cast<s32>(columnLength);
-  spec.stripBytes = 0;
-  for (const bool isScarce : {false, true}) {
-    spec.isScarce = isScarce ? 1 : 0;
-    spec.tileBytes = alignUp(std::max(tileBytes(spec, rowLength), tileBytes(spec, columnLength)));
-    if (isFair(spec, spec.tileBytes)) return;
-  }
-}
-
-void shapeLine(Spec& spec) {
-  const s64 length = std::max(spec.width, spec.height), points = spec.isHalved() ? length / 2 : length;
-  const s64 rows = lineRows(points);
-  if (rows == 1 || spec.isLone()) return shapeSeries(spec, Shape::kShort, points, 1);
-  // Columns of the grid are transformed first. They become the rows of the result.
-  spec.shape = Shape::kLine;
-  spec.gridWidth = static_cast<s32>(rows);
-  spec.gridHeight = static_cast<s32>(points / rows);
-  const s64 paddedWidth = (rows + kMostLanes - 1) / kMostLanes * kMostLanes;
-  spec.stripBytes = alignUp(complexBytes(paddedWidth * spec.gridHeight));
-  spec.tileBytes = alignUp(complexBytes(kMostLanes * std::max(spec.gridWidth, spec.gridHeight)));
-}
-
-// Vectors want rows and columns enough to fill them, and work memory: where that would be unfair, one row or column at
-// a time is the thriftier way.
-void shapeImage(Spec& spec) {
-  const s64 width = spec.width, height = spec.height;
-  const bool isReal = spec.isReal != 0;
-  spec.shape = Shape::kGrid;
-  spec.gridWidth = static_cast<s32>(isReal ? (width + 1) / 2 : width);
-  spec.gridHeight = static_cast<s32>(height);
-  const s64 paddedWidth = (spec.gridWidth + kMostLanes - 1) / kMostLanes * kMostLanes;
-  spec.stripBytes = alignUp(complexBytes(paddedWidth * height));
-  spec.tileBytes = alignUp(kMostLanes * std::max(tileBytes(spec, width), tileBytes(spec, height)));
-  const s64 leastRows = isReal ? 2 * kMostLanes : kMostLanes;
-  const bool fills = height >= leastRows && spec.gridWidth >= kMostLanes;
-  if (!fills || !isFair(spec, spec.stripBytes + spec.tileBytes)) shapeSeries(spec, Shape::kNarrow, width, height);
-}
-
-// What the caller provides: nothing where the stack has room.
-s64 workBytes(const Spec& spec) {
-  const s64 bytes = spec.stripBytes + spec.tileBytes;
-  return bytes <= kStackWork ? 0 : bytes;
-}
-
 // ---- The whole spec ----
 
 void writeLineTwiddles(const Spec& spec, Block& block) {
@@ -459,11 +285,7 @@ s64 fill(const Request& request, Spec& spec, Block& block, void* init) {
   spec.inverseX = scaleOf(request.flag, kDivideInverse, width);
   spec.inverseY = scaleOf(request.flag, kDivideInverse, height);
 
-  if (spec.isLine()) {
-    shapeLine(spec);
-  } else {
-    shapeImage(spec);
-  }
+  shapeSpec(spec);
   spec.workSize = static_cast<s32>(std::min<s64>(workBytes(spec), INT32_MAX));
 
   const s32 rowLength = spec.isLine() ? spec.gridWidth : width, columnLength = spec.gridHeight;
