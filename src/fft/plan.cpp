@@ -139,6 +139,7 @@ void writeChirp(const Plan& plan, Block& block, void* init) {
   fc64* x = static_cast<fc64*>(init);
   fc64* roots = x + size;
   for (s64 k = 0; k < size; ++k) roots[k] = rootOf(k, size);
+  const fc64* turns = block.table<fc64>(plan.turns);
   const f64 scale = 1.0 / static_cast<f64>(whole);  // of the way back
   for (s64 part = 0; part < plan.parts; ++part) {
     for (s64 i = 0; i < size; ++i) {
@@ -147,7 +148,7 @@ void writeChirp(const Plan& plan, Block& block, void* init) {
         const s64 distance = std::min(j, whole - j);
         if (distance >= n) continue;
         const fc64 c = {chirp[distance].re, -chirp[distance].im};
-        const fc64 term = part == 0 ? c : c * rootOf(part * j, whole);
+        const fc64 term = part == 0 ? c : c * turns[part * j % whole];
         x[i] = {x[i].re + term.re, x[i].im + term.im};
       }
     }

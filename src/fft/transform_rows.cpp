@@ -1,5 +1,6 @@
 // The kernels of the two-dimensional transforms: rows, then columns (the inverse of a packed spectrum the other way
-// round). Nothing of the destination is written before the whole source is read.
+// round). Source and destination are the same image or apart: narrow images and real lines stand in the destination
+// between their passes.
 #include "fft/packed.h"
 #include "fft/packed_line.h"
 #include "fft/series.h"
