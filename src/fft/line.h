@@ -13,8 +13,8 @@ struct Line {
   s64 step, imStep;  // bytes
 
   bool isContiguous() const { return step == sizeof(fc32) && imStep == sizeof(f32); }
-  f32* re(s64 j) const { return core::at(first, j * step); }
-  f32* im(s64 j) const { return core::at(first, j * step + imStep); }
+  RNX_INLINE f32* re(s64 j) const { return core::at(first, j * step); }
+  RNX_INLINE f32* im(s64 j) const { return core::at(first, j * step + imStep); }
   RNX_INLINE Complex<Single> get(s64 j) const { return {Single::load(re(j)), Single::load(im(j))}; }
   RNX_INLINE void put(s64 j, Complex<Single> x) const {
     x.re.store(re(j));
@@ -28,11 +28,11 @@ struct RealLine {
   s64 step;  // bytes
 
   bool isContiguous() const { return step == sizeof(f32); }
-  f32* at(s64 j) const { return core::at(first, j * step); }
-  f32 get(s64 j) const { return simd::loadOne(at(j)); }
-  void put(s64 j, f32 v) const { write(at(j), v); }
-  fc32 number(s64 k) const { return {get(2 * k - 1), get(2 * k)}; }
-  void putNumber(s64 k, f32 re, f32 im) const {
+  RNX_INLINE f32* at(s64 j) const { return core::at(first, j * step); }
+  RNX_INLINE f32 get(s64 j) const { return simd::loadOne(at(j)); }
+  RNX_INLINE void put(s64 j, f32 v) const { write(at(j), v); }
+  RNX_INLINE fc32 number(s64 k) const { return {get(2 * k - 1), get(2 * k)}; }
+  RNX_INLINE void putNumber(s64 k, f32 re, f32 im) const {
     put(2 * k - 1, re);
     put(2 * k, im);
   }

@@ -33,80 +33,84 @@ public:
         inverse_(call.inverse),
         tile_(call.work) {}
 
-  void complexToComplex(const Line& from, const Line& to, f32 scale) const {
-    run([&](s64 j) RNX_LAMBDA { return from.get(j); }, length_);
+  RNX_INLINE void complexToComplex(Line from, Line to, f32 scale) const {
+    run([=](s64 j) RNX_LAMBDA { return from.get(j); }, length_);
     const Outputs<Single> z = outputs(inverse_ ? Direction::kInverse : Direction::kForward);
-    for (s64 k = 0; k < length_; ++k) to.put(k, z[k] * Single::splat(scale));
+    for (s64 k = 0, n = length_; k < n; ++k) to.put(k, z[k] * Single::splat(scale));
   }
 
-  void realToPack(const RealPair& from, const RealPair& to, f32 scale) const {
+  RNX_INLINE void realToPack(const RealPair& from, RealPair to, f32 scale) const {
     const Line numbers = from.numbers();
-    run([&](s64 j) RNX_LAMBDA { return numbers.get(j); }, length_);
+    run([=](s64 j) RNX_LAMBDA { return numbers.get(j); }, length_);
     const Outputs<Single> z = outputs(Direction::kForward);
-    const auto putBoth = [&](s64 column, s64 k) RNX_LAMBDA {
+    const s64 n = length_;
+    const auto putBoth = [=](s64 column, s64 k) RNX_LAMBDA {
       to.a.put(column, z[k].re.raw * scale);
       to.b.put(column, z[k].im.raw * scale);
     };
     const f32 half = 0.5f * scale;
     putBoth(0, 0);
-    for (s64 k = 1; 2 * k < length_; ++k) {
-      const Complex<Single> x = z[k], y = z[length_ - k];
+    for (s64 k = 1; 2 * k < n; ++k) {
+      const Complex<Single> x = z[k], y = z[n - k];
       to.a.putNumber(k, (x.re + y.re).raw * half, (x.im - y.im).raw * half);
       to.b.putNumber(k, (x.im + y.im).raw * half, (y.re - x.re).raw * half);
     }
-    if (length_ % 2 == 0) putBoth(length_ - 1, length_ / 2);
+    if (n % 2 == 0) putBoth(n - 1, n / 2);
   }
 
-  void packToReal(const RealPair& from, const RealPair& to, f32 scale) const {
+  RNX_INLINE void packToReal(RealPair from, const RealPair& to, f32 scale) const {
+    const s64 n = length_;
     run(
-        [&](s64 k) RNX_LAMBDA {
-          if (k == 0 || 2 * k == length_) {
-            const s64 column = k == 0 ? 0 : length_ - 1;
+        [=](s64 k) RNX_LAMBDA {
+          if (k == 0 || 2 * k == n) {
+            const s64 column = k == 0 ? 0 : n - 1;
             return Complex<Single>{{from.a.get(column)}, {from.b.get(column)}};
           }
-          const bool isMirrored = 2 * k > length_;
-          const fc32 a = from.a.number(isMirrored ? length_ - k : k), b = from.b.number(isMirrored ? length_ - k : k);
+          const bool isMirrored = 2 * k > n;
+          const fc32 a = from.a.number(isMirrored ? n - k : k), b = from.b.number(isMirrored ? n - k : k);
           if (isMirrored) return Complex<Single>{{a.re + b.im}, {b.re - a.im}};
           return Complex<Single>{{a.re - b.im}, {a.im + b.re}};
         },
-        length_);
+        n);
     const Outputs<Single> z = outputs(Direction::kInverse);
     const Line numbers = to.numbers();
-    for (s64 j = 0; j < length_; ++j) numbers.put(j, z[j] * Single::splat(scale));
+    for (s64 j = 0; j < n; ++j) numbers.put(j, z[j] * Single::splat(scale));
   }
 
   // A real line of odd length without a partner. In parts it needs half the room: no other output is computed.
-  void loneToPack(const RealLine& from, const RealLine& to, f32 scale) const {
-    run([&](s64 j) RNX_LAMBDA { return Complex<Single>{{from.get(j)}, {0.0f}}; }, length_ / 2 + 1);
+  void loneToPack(RealLine from, RealLine to, f32 scale) const {
+    const s64 n = length_;
+    run([=](s64 j) RNX_LAMBDA { return Complex<Single>{{from.get(j)}, {0.0f}}; }, n / 2 + 1);
     const Outputs<Single> x = outputs(Direction::kForward);
     to.put(0, x[0].re.raw * scale);
-    for (s64 k = 1; 2 * k < length_; ++k) to.putNumber(k, x[k].re.raw * scale, x[k].im.raw * scale);
+    for (s64 k = 1; 2 * k < n; ++k) to.putNumber(k, x[k].re.raw * scale, x[k].im.raw * scale);
   }
 
   // The way back: the forward transform of the conjugate.
-  void loneToReal(const RealLine& from, const RealLine& to, f32 scale) const {
-    const auto load = [&](s64 k) RNX_LAMBDA {
+  void loneToReal(RealLine from, RealLine to, f32 scale) const {
+    const s64 n = length_;
+    const auto load = [=](s64 k) RNX_LAMBDA {
       if (k == 0) return Complex<Single>{{from.get(0)}, {0.0f}};
-      const bool isMirrored = 2 * k > length_;
-      const fc32 x = from.number(isMirrored ? length_ - k : k);
+      const bool isMirrored = 2 * k > n;
+      const fc32 x = from.number(isMirrored ? n - k : k);
       return Complex<Single>{{x.re}, {isMirrored ? x.im : -x.im}};
     };
     if (!inParts_) {
-      run(load, length_);
+      run(load, n);
       const Outputs<Single> x = outputs(Direction::kForward);
-      for (s64 j = 0; j < length_; ++j) to.put(j, x[j].re.raw * scale);
+      for (s64 j = 0; j < n; ++j) to.put(j, x[j].re.raw * scale);
       return;
     }
-    clear(length_);
-    f32* const part = tile_ + length_ + 1;
-    const auto add = [&](s64 j, P x) RNX_LAMBDA { (P::load(tile_ + j) + x).store(tile_ + j); };
+    clear(n);
+    f32* const part = tile_ + n + 1;
+    const auto add = [=, tile = tile_](s64 j, P x) RNX_LAMBDA { (P::load(tile + j) + x).store(tile + j); };
     if (isChirp_) {
-      parts_.chirp([&](s64 k) RNX_LAMBDA { return widened(load(k)); }, length_, part,
+      parts_.chirp([&](s64 k) RNX_LAMBDA { return widened(load(k)); }, n, part,
                    [&](s64 j, Complex<P> x) RNX_LAMBDA { add(j, x.re); });
     } else {
       parts_.halfToReal(load, part, add);
     }
-    for (s64 j = 0; j < length_; ++j) to.put(j, tile_[j] * scale);
+    for (s64 j = 0; j < n; ++j) to.put(j, tile_[j] * scale);
   }
 
 private:
@@ -122,15 +126,16 @@ private:
 
   // Transforms load(0), load(1), ... At least the first `count` outputs are computed.
   template <class Load>
-  void run(Load load, s64 count) const {
+  RNX_INLINE void run(Load load, s64 count) const {
     if (!inParts_) {
-      for (s64 j = 0; j < length_; ++j) storeElement(tile_ + j * kElement<Single>, load(j));
-      transform_.run(tile_, tile_);
+      f32* const tile = tile_;
+      for (s64 j = 0, n = length_; j < n; ++j) storeElement(tile + j * kElement<Single>, load(j));
+      transform_.run(tile, tile);
       return;
     }
     f32* const part = tile_ + 2 * count;
     const auto wide = [&](s64 j) RNX_LAMBDA { return widened(load(j)); };
-    const auto put = [&](s64 k, Complex<P> x) RNX_LAMBDA { storeElement(tile_ + 2 * k, x); };
+    const auto put = [tile = tile_](s64 k, Complex<P> x) RNX_LAMBDA { storeElement(tile + 2 * k, x); };
     if (!isChirp_) return parts_.realToHalf(wide, part, put);
     clear(2 * count);
     parts_.chirp(wide, count, part, [&](s64 k, Complex<P> x) RNX_LAMBDA { put(k, loadElement<P>(tile_ + 2 * k) + x); });
