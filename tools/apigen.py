@@ -317,7 +317,7 @@ def header(table, subsystem):
     body = []
     for chapter in chapters:
         body.append(banner(chapter))
-        body += [family_section(table, family) for family in chapter.families]
+        body += [family_section(table, chapter, family) for family in chapter.families]
     title = "; ".join(c.title for c in chapters)
     return HEADER.format(title=title, guard=subsystem.upper(), body="\n".join(body))
 
@@ -329,7 +329,13 @@ def banner(chapter):
     return "\n" + comment(lines)
 
 
-def family_section(table, family):
+def shown_by(chapter, family):
+    """The families of the chapter whose examples call this one."""
+    call = re.compile(rf"rnxi{family.name}(_|\b)")
+    return [f for f in chapter.families if call.search(f.raw.get("example", ""))]
+
+
+def family_section(table, chapter, family):
     raw = family.raw
     lines = [f"rnxi{family.name}: {raw['brief']}"]
     if "formula" in raw:
@@ -348,6 +354,11 @@ def family_section(table, family):
             lines += definition(table.checks[check]["status"], table.checks[check]["doc"])
     if "example" in raw:
         lines += ["", "Example", *("    " + line for line in raw["example"].strip().splitlines())]
+    else:
+        others = ", ".join(f"rnxi{f.name}" for f in shown_by(chapter, family))
+        if not others:
+            raise Mistake(f"api/{family.file}: family {family.name} has no example, and no other one calls it")
+        lines += ["", f"Example: that of {others}"]
     return comment(lines) + "\n" + "\n".join(wrap_prototype(e) for e in family.exports) + "\n"
 
 

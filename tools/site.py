@@ -230,8 +230,8 @@ def family_page(table, chapter, family):
     said = "Said above" if overlap[:1] == [raw.get("doc", "")] else "Said below, for the whole chapter" if overlap else ""
     parts.append(f'<p>{said + ". In general: " if said else "The general rule: "}'
                  '<a href="../concepts.html#overlap">concepts, overlap</a>.</p>')  # fmt: skip
-    others = [f.name for f in chapter.families if re.search(rf"rnxi{family.name}(_|\b)", f.raw.get("example", ""))]
-    if "example" not in raw and others:
+    others = [f.name for f in apigen.shown_by(chapter, family)]
+    if "example" not in raw:
         parts.append(f"<h2>Example</h2>\n<p>In that of {linked(', '.join('rnxi' + name for name in others))}.</p>")
     if "example" in raw:
         parts += ["<h2>Example</h2>", f"<pre><code>{escape(raw['example'].strip())}</code></pre>"]

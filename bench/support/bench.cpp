@@ -12,6 +12,7 @@
 #include <map>
 #include <new>
 #include <random>
+#include <regex>
 
 #include "rnxcore.h"
 
@@ -35,10 +36,13 @@ std::string benchmarkName(const std::string& row, Size size, const std::string& 
   return row + "|" + std::to_string(size.width) + "x" + std::to_string(size.height) + "|" + contestant;
 }
 
-// Keeps the fastest repetition of every benchmark and prints one line per row at the end.
+// Keeps the fastest repetition of every contestant of a row and prints the row when it has run.
 class Table : public benchmark::BenchmarkReporter {
 public:
-  explicit Table(const char* csvPath) : csvPath_(csvPath) {}
+  explicit Table(const char* csvPath) {
+    if (csvPath != nullptr) csv_.open(csvPath);
+    if (csv_) csv_ << "row,size,contestant,ns,ns_per_pixel\n";
+  }
 
   bool ReportContext(const Context&) override { return true; }
 
@@ -48,28 +52,21 @@ public:
       std::string name = run.benchmark_name();
       name = name.substr(0, name.find('/'));
       const auto second = name.rfind('|');
-      Cells& cells = rows_[name.substr(0, second)];
-      const std::string who = name.substr(second + 1);
+      row_ = name.substr(0, second);
       const double ns = run.GetAdjustedRealTime();
-      auto [cell, isNew] = cells.try_emplace(who, ns);
+      auto [cell, isNew] = cells_.try_emplace(name.substr(second + 1), ns);
       cell->second = std::min(cell->second, ns);
-      if (isNew && cells.size() == 1) order_.push_back(name.substr(0, second));
     }
   }
 
   void Finalize() override {
-    std::ofstream csv;
-    if (csvPath_ != nullptr) csv.open(csvPath_);
-    if (csv) csv << "row,size,contestant,ns,ns_per_pixel\n";
-    std::sort(order_.begin(), order_.end());
-    for (const std::string& key : order_) {
-      const auto bar = key.rfind('|');
-      const std::string row = key.substr(0, bar), size = key.substr(bar + 1);
-      print(row, size, rows_[key]);
-      for (const auto& [who, ns] : rows_[key]) {
-        if (csv) csv << row << ',' << size << ',' << who << ',' << ns << ',' << ns / pixelsOf(size) << '\n';
-      }
+    const auto bar = row_.rfind('|');
+    const std::string row = row_.substr(0, bar), size = row_.substr(bar + 1);
+    if (!cells_.empty()) print(row, size, cells_);
+    for (const auto& [who, ns] : cells_) {
+      if (csv_) csv_ << row << ',' << size << ',' << who << ',' << ns << ',' << ns / pixelsOf(size) << '\n';
     }
+    cells_.clear();
   }
 
 private:
@@ -95,10 +92,48 @@ private:
     std::printf("%s\n", slower ? "   SLOWER" : "");
   }
 
-  const char* csvPath_;
-  std::map<std::string, Cells> rows_;
-  std::vector<std::string> order_;
+  std::ofstream csv_;
+  std::string row_;
+  Cells cells_;
 };
+
+struct Row {
+  std::string name;
+  Size size;
+  std::vector<Contestant> contestants;
+};
+
+std::vector<Row>& rows() {
+  static std::vector<Row> all;
+  return all;
+}
+
+void registerContestant(const Row& row, const Contestant& contestant) {
+  benchmark::RegisterBenchmark(benchmarkName(row.name, row.size, contestant.name).c_str(),
+                               [contestant](benchmark::State& state) {
+                                 freeAll();
+                                 const Work work = contestant.make();
+                                 narrowOnly = contestant.narrow;
+                                 work();
+                                 for (auto _ : state) work();
+                                 narrowOnly = false;
+                               });
+}
+
+// Row by row, so that what is compared ran within the same second.
+void runRows(Table& table) {
+  const std::regex filter(benchmark::GetBenchmarkFilter(), std::regex::extended);
+  for (const Row& row : rows()) {
+    bool any = false;
+    for (const Contestant& contestant : row.contestants) {
+      if (!std::regex_search(benchmarkName(row.name, row.size, contestant.name), filter)) continue;
+      registerContestant(row, contestant);
+      any = true;
+    }
+    if (any) benchmark::RunSpecifiedBenchmarks(&table);
+    benchmark::ClearRegisteredBenchmarks();
+  }
+}
 
 }  // namespace
 
@@ -126,19 +161,10 @@ Contestants readFloorOf(int64_t bytesRead) {
 }
 
 void addRow(const std::string& name, Size size, const std::vector<Contestants>& contestants) {
-  for (const Contestants& group : contestants) {
-    for (const Contestant& contestant : group) {
-      benchmark::RegisterBenchmark(benchmarkName(name, size, contestant.name).c_str(),
-                                   [contestant](benchmark::State& state) {
-                                     freeAll();
-                                     const Work work = contestant.make();
-                                     narrowOnly = contestant.narrow;
-                                     work();
-                                     for (auto _ : state) work();
-                                     narrowOnly = false;
-                                   });
-    }
-  }
+  Row row = {name, size, {}};
+  for (const Contestants& group : contestants)
+    row.contestants.insert(row.contestants.end(), group.begin(), group.end());
+  rows().push_back(row);
 }
 
 // One arena for the operands of every contestant, in turn: where memory lies, and on which pages, moves the figures of
@@ -201,11 +227,10 @@ void fillRandom(double* values, int64_t count) {
 
 int main(int argc, char** argv) {
   RNX_OPENCV(cv::setNumThreads(1));
-  const char* csvPath = std::getenv("RNX_BENCH_CSV");
-  bench::Table table(csvPath);
+  bench::Table table(std::getenv("RNX_BENCH_CSV"));
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
-  benchmark::RunSpecifiedBenchmarks(&table);
+  bench::runRows(table);
   benchmark::Shutdown();
   return 0;
 }

@@ -120,7 +120,9 @@ Rnx32fc* rnxiMalloc_32fc_AC4_L(Rnx64s width, Rnx64s height, Rnx64s* pStepBytes);
 /* rnxiFree: Gives image memory back; null is harmless.
 
    Arguments
-     ptr: memory from one of the allocators, or null */
+     ptr: memory from one of the allocators, or null
+
+   Example: that of rnxiMalloc */
 
 void rnxiFree(void* ptr);
 

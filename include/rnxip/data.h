@@ -1122,10 +1122,13 @@ RnxStatus rnxiDup_8u_C1C4R(const Rnx8u* pSrc, int srcStep, Rnx8u* pDst, int dstS
    roiSize is the size of the source; the diagonals make an image of H x W. AC4 moves three channels and leaves the fourth
    element of the destination as it is, in place too.
 
-   With flip 3 and 4 a step below 1 gives rnxStatusBadStep, before the size, and images that have a byte in common give
-   rnxStatusUnsupportedMode, last; so does the in-place form. The other axes check no step: one pointer and one step for
-   source and destination mean in place, otherwise overlapping images give the result of a loop over the source's rows
-   from the top and over a row from the left: over its elements with flip 0, over its pixels with flip 1 and 2.
+   With flip 3 and 4 a step below 1 gives rnxStatusBadStep, before the size, and images that overlap in memory give
+   rnxStatusUnsupportedMode, last; so does the in-place form. Images side by side, with one step, do not overlap; images
+   with different steps do when the bytes from the first to the last one of each meet.
+
+   The other axes check no step: one pointer and one step for source and destination mean in place, and rows that are to be
+   reversed onto themselves are reversed in place. Otherwise overlapping images give the result of a loop over the source's
+   rows from the top and over a row from the left: over its elements with flip 0, over its pixels with flip 1 and 2.
 
    Upside down, an image of 2097153 bytes or more is written around the caches where it does not fit them.
 

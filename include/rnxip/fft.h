@@ -134,7 +134,9 @@ RnxStatus rnxiFFTGetSize_R_32f(int orderX, int orderY, int flag, int hint, int* 
      rnxStatusBadFftOrder: orderX below 0 or above 28; then the flag is tested, then orderY
      rnxStatusBadFftFlag: flag not 1, 2, 4 or 8
      rnxStatusSizeOverflow: a size passes 0x7fffffff bytes
-     rnxStatusNullPointer: pMemInit is null and its size is not 0 */
+     rnxStatusNullPointer: pMemInit is null and its size is not 0
+
+   Example: that of rnxiFFTGetSize_C */
 
 RnxStatus rnxiFFTInit_C_32fc(int orderX, int orderY, int flag, int hint, RnxiFFTSpec* pSpec, Rnx8u* pMemInit);
 
@@ -153,7 +155,9 @@ RnxStatus rnxiFFTInit_C_32fc(int orderX, int orderY, int flag, int hint, RnxiFFT
      rnxStatusBadFftOrder: orderX below 0 or above 28; then the flag is tested, then orderY
      rnxStatusBadFftFlag: flag not 1, 2, 4 or 8
      rnxStatusSizeOverflow: a size passes 0x7fffffff bytes
-     rnxStatusNullPointer: pMemInit is null and its size is not 0 */
+     rnxStatusNullPointer: pMemInit is null and its size is not 0
+
+   Example: that of rnxiFFTGetSize_R */
 
 RnxStatus rnxiFFTInit_R_32f(int orderX, int orderY, int flag, int hint, RnxiFFTSpec* pSpec, Rnx8u* pMemInit);
 
@@ -235,7 +239,9 @@ RnxStatus rnxiDFTGetSize_R_32f(RnxiSize roiSize, int flag, int hint, int* pSpecS
      rnxStatusBadSize: width or height below 1
      rnxStatusBadFftFlag: flag not 1, 2, 4 or 8
      rnxStatusSizeOverflow: a size passes 0x7fffffff bytes
-     rnxStatusNullPointer: pMemInit is null and its size is not 0 */
+     rnxStatusNullPointer: pMemInit is null and its size is not 0
+
+   Example: that of rnxiDFTGetSize_C */
 
 RnxStatus rnxiDFTInit_C_32fc(RnxiSize roiSize, int flag, int hint, RnxiDFTSpec* pSpec, Rnx8u* pMemInit);
 
@@ -253,7 +259,9 @@ RnxStatus rnxiDFTInit_C_32fc(RnxiSize roiSize, int flag, int hint, RnxiDFTSpec* 
      rnxStatusBadSize: width or height below 1
      rnxStatusBadFftFlag: flag not 1, 2, 4 or 8
      rnxStatusSizeOverflow: a size passes 0x7fffffff bytes
-     rnxStatusNullPointer: pMemInit is null and its size is not 0 */
+     rnxStatusNullPointer: pMemInit is null and its size is not 0
+
+   Example: that of rnxiDFTGetSize_R */
 
 RnxStatus rnxiDFTInit_R_32f(RnxiSize roiSize, int flag, int hint, RnxiDFTSpec* pSpec, Rnx8u* pMemInit);
 
@@ -271,7 +279,9 @@ RnxStatus rnxiDFTInit_R_32f(RnxiSize roiSize, int flag, int hint, RnxiDFTSpec* p
      rnxStatusBadContext: pSpec is not a spec of this kind
      rnxStatusNullPointer: an image pointer is null
      rnxStatusBadStep: a step below 1
-     rnxStatusNullPointer: pBuffer is null and its size is not 0 */
+     rnxStatusNullPointer: pBuffer is null and its size is not 0
+
+   Example: that of rnxiFFTGetSize_C */
 
 RnxStatus rnxiFFTFwd_CToC_32fc_C1R(const Rnx32fc* pSrc, int srcStep, Rnx32fc* pDst, int dstStep,
     const RnxiFFTSpec* pSpec, Rnx8u* pBuffer);
@@ -291,7 +301,9 @@ RnxStatus rnxiFFTFwd_CToC_32fc_C1IR(Rnx32fc* pSrcDst, int srcDstStep, const Rnxi
      rnxStatusBadContext: pSpec is not a spec of this kind
      rnxStatusNullPointer: an image pointer is null
      rnxStatusBadStep: a step below 1
-     rnxStatusNullPointer: pBuffer is null and its size is not 0 */
+     rnxStatusNullPointer: pBuffer is null and its size is not 0
+
+   Example: that of rnxiFFTGetSize_C */
 
 RnxStatus rnxiFFTInv_CToC_32fc_C1R(const Rnx32fc* pSrc, int srcStep, Rnx32fc* pDst, int dstStep,
     const RnxiFFTSpec* pSpec, Rnx8u* pBuffer);
@@ -311,7 +323,9 @@ RnxStatus rnxiFFTInv_CToC_32fc_C1IR(Rnx32fc* pSrcDst, int srcDstStep, const Rnxi
      rnxStatusBadContext: pSpec is not a spec of this kind
      rnxStatusNullPointer: an image pointer is null
      rnxStatusBadStep: a step below 1
-     rnxStatusNullPointer: pBuffer is null and its size is not 0 */
+     rnxStatusNullPointer: pBuffer is null and its size is not 0
+
+   Example: that of rnxiFFTGetSize_R */
 
 RnxStatus rnxiFFTFwd_RToPack_32f_C1R(const Rnx32f* pSrc, int srcStep, Rnx32f* pDst, int dstStep,
     const RnxiFFTSpec* pSpec, Rnx8u* pBuffer);
@@ -340,7 +354,9 @@ RnxStatus rnxiFFTFwd_RToPack_32f_AC4IR(Rnx32f* pSrcDst, int srcDstStep, const Rn
      rnxStatusBadContext: pSpec is not a spec of this kind
      rnxStatusNullPointer: an image pointer is null
      rnxStatusBadStep: a step below 1
-     rnxStatusNullPointer: pBuffer is null and its size is not 0 */
+     rnxStatusNullPointer: pBuffer is null and its size is not 0
+
+   Example: that of rnxiFFTGetSize_R */
 
 RnxStatus rnxiFFTInv_PackToR_32f_C1R(const Rnx32f* pSrc, int srcStep, Rnx32f* pDst, int dstStep,
     const RnxiFFTSpec* pSpec, Rnx8u* pBuffer);
@@ -369,7 +385,9 @@ RnxStatus rnxiFFTInv_PackToR_32f_AC4IR(Rnx32f* pSrcDst, int srcDstStep, const Rn
      rnxStatusBadContext: pSpec is not a spec of this kind
      rnxStatusNullPointer: an image pointer is null
      rnxStatusBadStep: a step below 1
-     rnxStatusNullPointer: pBuffer is null and its size is not 0 */
+     rnxStatusNullPointer: pBuffer is null and its size is not 0
+
+   Example: that of rnxiDFTGetSize_C */
 
 RnxStatus rnxiDFTFwd_CToC_32fc_C1R(const Rnx32fc* pSrc, int srcStep, Rnx32fc* pDst, int dstStep,
     const RnxiDFTSpec* pSpec, Rnx8u* pBuffer);
@@ -389,7 +407,9 @@ RnxStatus rnxiDFTFwd_CToC_32fc_C1IR(Rnx32fc* pSrcDst, int srcDstStep, const Rnxi
      rnxStatusBadContext: pSpec is not a spec of this kind
      rnxStatusNullPointer: an image pointer is null
      rnxStatusBadStep: a step below 1
-     rnxStatusNullPointer: pBuffer is null and its size is not 0 */
+     rnxStatusNullPointer: pBuffer is null and its size is not 0
+
+   Example: that of rnxiDFTGetSize_C */
 
 RnxStatus rnxiDFTInv_CToC_32fc_C1R(const Rnx32fc* pSrc, int srcStep, Rnx32fc* pDst, int dstStep,
     const RnxiDFTSpec* pSpec, Rnx8u* pBuffer);
@@ -409,7 +429,9 @@ RnxStatus rnxiDFTInv_CToC_32fc_C1IR(Rnx32fc* pSrcDst, int srcDstStep, const Rnxi
      rnxStatusBadContext: pSpec is not a spec of this kind
      rnxStatusNullPointer: an image pointer is null
      rnxStatusBadStep: a step below 1
-     rnxStatusNullPointer: pBuffer is null and its size is not 0 */
+     rnxStatusNullPointer: pBuffer is null and its size is not 0
+
+   Example: that of rnxiDFTGetSize_R, rnxiMulPack */
 
 RnxStatus rnxiDFTFwd_RToPack_32f_C1R(const Rnx32f* pSrc, int srcStep, Rnx32f* pDst, int dstStep,
     const RnxiDFTSpec* pSpec, Rnx8u* pBuffer);
@@ -438,7 +460,9 @@ RnxStatus rnxiDFTFwd_RToPack_32f_AC4IR(Rnx32f* pSrcDst, int srcDstStep, const Rn
      rnxStatusBadContext: pSpec is not a spec of this kind
      rnxStatusNullPointer: an image pointer is null
      rnxStatusBadStep: a step below 1
-     rnxStatusNullPointer: pBuffer is null and its size is not 0 */
+     rnxStatusNullPointer: pBuffer is null and its size is not 0
+
+   Example: that of rnxiDFTGetSize_R, rnxiMulPack, rnxiMulPackConj */
 
 RnxStatus rnxiDFTInv_PackToR_32f_C1R(const Rnx32f* pSrc, int srcStep, Rnx32f* pDst, int dstStep,
     const RnxiDFTSpec* pSpec, Rnx8u* pBuffer);

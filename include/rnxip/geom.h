@@ -73,7 +73,9 @@ extern "C" {
          the destination in a direction for super-sampling
      rnxStatusSizeOverflow: the spec would have 0x7fffffff bytes or more; _L: a width or height above 33554431 (the
          size queries then write 0)
-     rnxStatusBadDataType: _L: dataType not 1, 5, 7 or 13, nor 19 with linear interpolation */
+     rnxStatusBadDataType: _L: dataType not 1, 5, 7 or 13, nor 19 with linear interpolation
+
+   Example: that of rnxiResizeLinearInit, rnxiResizeNearest */
 
 RnxStatus rnxiResizeGetSize_8u(RnxiSize srcSize, RnxiSize dstSize, int interpolation, Rnx32u antialiasing,
     int* pSpecSize, int* pInitBufSize);
@@ -102,7 +104,9 @@ RnxStatus rnxiResizeGetSize_L(const RnxiSizeL* srcSize, const RnxiSizeL* dstSize
      rnxStatusBadSize: a width or height is negative
      rnxStatusSizeOverflow: the spec would have 0x7fffffff bytes or more; _L: a width or height above 33554431 (the
          size queries then write 0)
-     rnxStatusBadDataType: _L: dataType not 1, 5, 7 or 13, nor 19 with linear interpolation */
+     rnxStatusBadDataType: _L: dataType not 1, 5, 7 or 13, nor 19 with linear interpolation
+
+   Example: that of rnxiResizeNearest */
 
 RnxStatus rnxiResizeNearestInit_8u(RnxiSize srcSize, RnxiSize dstSize, RnxiResizeSpec* pSpec);
 RnxStatus rnxiResizeNearestInit_16u(RnxiSize srcSize, RnxiSize dstSize, RnxiResizeSpec* pSpec);
@@ -167,7 +171,9 @@ RnxStatus rnxiResizeLinearInit_L(const RnxiSizeL* srcSize, const RnxiSizeL* dstS
      rnxStatusBadSize: a width or height is below 1
      rnxStatusBadContext: not a spec of these functions, or one for another element type
      rnxStatusBadChannelCount: numChannels not 1, 3 or 4
-     rnxStatusSizeOverflow: the buffer would have 0x7fffffff bytes or more; the size is set to 0 */
+     rnxStatusSizeOverflow: the buffer would have 0x7fffffff bytes or more; the size is set to 0
+
+   Example: that of rnxiResizeNearest */
 
 RnxStatus rnxiResizeGetBufferSize_8u(const RnxiResizeSpec* pSpec, RnxiSize dstSize, int numChannels, int* pBufSize);
 RnxStatus rnxiResizeGetBufferSize_16u(const RnxiResizeSpec* pSpec, RnxiSize dstSize, int numChannels, int* pBufSize);
@@ -211,7 +217,9 @@ RnxStatus rnxiResizeGetBorderSize_L(const RnxiResizeSpec* pSpec, RnxiBorderSize*
 
    Checks, in this order
      rnxStatusNullPointer: a pointer is null (all are tested together)
-     rnxStatusBadContext: not a spec of these functions, or one for another element type */
+     rnxStatusBadContext: not a spec of these functions, or one for another element type
+
+   Example: that of rnxiResizeLinear */
 
 RnxStatus rnxiResizeGetSrcOffset_8u(const RnxiResizeSpec* pSpec, RnxiPoint dstOffset, RnxiPoint* pSrcOffset);
 RnxStatus rnxiResizeGetSrcOffset_16u(const RnxiResizeSpec* pSpec, RnxiPoint dstOffset, RnxiPoint* pSrcOffset);

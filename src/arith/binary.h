@@ -9,6 +9,7 @@
 #include "core/checks.h"
 #include "core/image.h"
 #include "data/fill.h"
+#include "simd/float_state.h"
 
 namespace rnx::arith {
 
@@ -34,6 +35,7 @@ constexpr int leftShift(int scaleFactor) {
 
 struct Add {
   static constexpr bool kChecksSteps = false, kRefusesZeroConstants = false;
+  using IntegerState = simd::NoFloatState;
 
   // The largest factor that leaves a non-zero sum: of 9 bits for 8u, 17 for 16u, and -65536 for 16s. The constant
   // forms of 16u stop one short of it.
@@ -54,6 +56,7 @@ struct Add {
 
 struct Sub {
   static constexpr bool kChecksSteps = false, kRefusesZeroConstants = false;
+  using IntegerState = simd::NoFloatState;
 
   template <class T, RightOperand R>
   static constexpr int kLargestFactor = sizeof(T) == 1 ? 8 : 16;
@@ -70,6 +73,7 @@ struct Sub {
 
 struct Mul {
   static constexpr bool kChecksSteps = false, kRefusesZeroConstants = false;
+  using IntegerState = simd::NoFloatState;
 
   // 255^2 has 16 bits, 65535^2 has 32; 2^30, the largest product of 16s, is a tie at 31, which goes to 0.
   template <class T, RightOperand R>
@@ -87,6 +91,8 @@ struct Mul {
 
 struct Div {
   static constexpr bool kChecksSteps = true, kRefusesZeroConstants = true;
+  using IntegerState =
+      simd::FloatState;  // integers are divided in floating point, 0 / 0 and inexact quotients included
 
   // Division by 0 has its own result at every factor, so no factor is too large for the kernel.
   template <class T, RightOperand R>
@@ -148,18 +154,16 @@ RnxStatus runConstant(const BinaryForms<T>& forms, const T* src, int srcStep, co
                       RnxiSize roi, int shift, f32 factor) {
   T all[4] = {1, 1, 1, 1};
   std::copy(values, values + L::kUsed, all);
-  const s64 width = s64{roi.width} * L::kChannels;
-  const BinaryCall<T> call = {
-      .rows = core::planRows(width, roi.height, core::operand(dst, dstStep, width), core::operand(src, srcStep, width)),
-      .left = src,
-      .leftStep = srcStep,
-      .right = all,
-      .rightStep = 0,
-      .period = L::kChannels,
-      .dst = dst,
-      .dstStep = dstStep,
-      .shift = shift,
-      .factor = factor};
+  const BinaryCall<T> call = {.rows = core::planRowsOf<L>(src, srcStep, dst, dstStep, roi),
+                              .left = src,
+                              .leftStep = srcStep,
+                              .right = all,
+                              .rightStep = 0,
+                              .period = L::kChannels,
+                              .dst = dst,
+                              .dstStep = dstStep,
+                              .shift = shift,
+                              .factor = factor};
   return run(core::kHasAlpha<L> ? forms.constantAlpha : forms.constant, call);
 }
 
@@ -176,6 +180,7 @@ RnxStatus images(const T* src1, int src1Step, const T* src2, int src2Step, T* ds
   const auto choice = Op::template choose<T, RightOperand::kImage>(kernels<T>(call.rows.bytesMoved), scaleFactor);
   if (choice.forms == nullptr) return data::fillZero<L>(dst, dstStep, roi);
   call.shift = choice.shift;
+  [[maybe_unused]] const typename Op::IntegerState state;
   return runImages<L>(*choice.forms, call);
 }
 
@@ -204,22 +209,11 @@ RnxStatus divideRounded(const T* src1, int src1Step, const T* src2, int src2Step
   const IntegerKernels<T>& k = kernels<T>(call.rows.bytesMoved);
   const BinaryForms<T>* const byMode[2][3] = {{&k.divZero, &k.divEven, &k.divAway},
                                               {&k.divZeroLeft, &k.divEvenLeft, &k.divAwayLeft}};
+  const Div::IntegerState state;
   return runImages<L>(*byMode[scaleFactor < 0][roundMode], call);
 }
 
-// ---- An image and a constant: a value for C1, otherwise an array with one value per channel that is used ----
-
-template <class T, class L>
-using Constant = std::conditional_t<L::kChannels == 1, T, const T*>;
-
-template <class T>
-const T* valuesOf(const T& value) {
-  return &value;
-}
-template <class T>
-const T* valuesOf(const T* const& values) {
-  return values;
-}
+// ---- An image and a constant ----
 
 template <class Op, class L, class T>
 RnxStatus checkConstant(const T* src, const T* values, const T* dst, RnxiSize roi) {
@@ -232,21 +226,23 @@ RnxStatus checkConstant(const T* src, const T* values, const T* dst, RnxiSize ro
 }
 
 template <class Op, class T, class L>
-RnxStatus constant(const T* src, int srcStep, Constant<T, L> value, T* dst, int dstStep, RnxiSize roi,
+RnxStatus constant(const T* src, int srcStep, core::Constant<T, L> value, T* dst, int dstStep, RnxiSize roi,
                    int scaleFactor) {
-  const T* values = valuesOf<T>(value);
+  const T* values = core::valuesOf<T>(value);
   if (const RnxStatus status = checkConstant<Op, L>(src, values, dst, roi)) return status;
 
   const s64 bytesMoved = 2 * s64{roi.width} * roi.height * L::kChannels * static_cast<s64>(sizeof(T));
   const auto choice = Op::template choose<T, RightOperand::kConstant>(kernels<T>(bytesMoved), scaleFactor);
   if (choice.forms == nullptr) return data::fillZero<L>(dst, dstStep, roi);
+  [[maybe_unused]] const typename Op::IntegerState state;
   return runConstant<L>(*choice.forms, src, srcStep, values, dst, dstStep, roi, choice.shift,
                         divisionFactor(scaleFactor));
 }
 
 template <class Op, class L>
-RnxStatus constantFloat(const f32* src, int srcStep, Constant<f32, L> value, f32* dst, int dstStep, RnxiSize roi) {
-  const f32* values = valuesOf<f32>(value);
+RnxStatus constantFloat(const f32* src, int srcStep, core::Constant<f32, L> value, f32* dst, int dstStep,
+                        RnxiSize roi) {
+  const f32* values = core::valuesOf<f32>(value);
   if (const RnxStatus status = checkConstant<Op, L>(src, values, dst, roi)) return status;
 
   const s64 bytesMoved = 2 * s64{roi.width} * roi.height * L::kChannels * s64{sizeof(f32)};
@@ -272,12 +268,12 @@ RnxStatus divideRoundedInPlace(const T* src, int srcStep, T* srcDst, int srcDstS
 }
 
 template <class Op, class T, class L>
-RnxStatus constantInPlace(Constant<T, L> value, T* srcDst, int srcDstStep, RnxiSize roi, int scaleFactor) {
+RnxStatus constantInPlace(core::Constant<T, L> value, T* srcDst, int srcDstStep, RnxiSize roi, int scaleFactor) {
   return constant<Op, T, L>(srcDst, srcDstStep, value, srcDst, srcDstStep, roi, scaleFactor);
 }
 
 template <class Op, class L>
-RnxStatus constantFloatInPlace(Constant<f32, L> value, f32* srcDst, int srcDstStep, RnxiSize roi) {
+RnxStatus constantFloatInPlace(core::Constant<f32, L> value, f32* srcDst, int srcDstStep, RnxiSize roi) {
   return constantFloat<Op, L>(srcDst, srcDstStep, value, srcDst, srcDstStep, roi);
 }
 

@@ -53,20 +53,28 @@ struct Mul {
 // that went up to an odd value. Signed lanes have headroom for the half: 8-bit sums shift by at most 9, sums of 16 bits
 // by at most 17, and a product of two 16s is at most 2^30 and shifts by at most 30.
 template <class W>
-class Right {
+class RightWithHalf {
 public:
-  explicit Right(int n)
+  explicit RightWithHalf(int n)
       : n_(shiftCount(n)),
         half_(Vec<W>::splat(static_cast<W>(W(1) << (n - 1)))),
         step_(Vec<W>::splat(static_cast<W>(u64{1} << n))),
         below_(Vec<W>::splat(static_cast<W>((u64{2} << n) - 1))) {}
 
   RNX_INLINE Vec<W> operator()(Vec<W> v) const { return ofSumWithHalf(v + half_); }
-  RNX_INLINE Vec<W> ofSumWithHalf(Vec<W> u) const { return shiftRight(u, n_) + equal(u & below_, step_); }
+  RNX_INLINE Vec<W> ofSumWithHalf(Vec<W> u) const {
+    return shiftRight(u, n_) + equal(u & below_, step_).template as<W>();
+  }
 
 private:
   ShiftCount n_;
   Vec<W> half_, step_, below_;
+};
+
+template <class W>
+class Right : public RightWithHalf<W> {
+public:
+  using RightWithHalf<W>::RightWithHalf;
 };
 
 // Unsigned products may fill the lane: the quotient is incremented where the rest is above half, or half and the
@@ -160,6 +168,65 @@ template <class T, class Op>
 using ScaledRight = Scaled<T, Op, Right>;
 template <class T, class Op>
 using ScaledLeft = Scaled<T, Op, Left, T>;
+
+// ---- 8u shifted right, in fewer steps ----
+
+// Products of bytes are at most 65025, which leaves room for a half of up to 2^8.
+struct ByteProductRight : Scaled<u8, Mul, RightWithHalf> {
+  using Scaled::Scaled;
+  static bool takes(int shift) { return shift <= 9; }
+};
+
+// (h + 2^(n-1) - 1 + odd) >> n in lanes of bytes, where h is a difference, or floor(sum / 2) and a bit is lost:
+//   odd = (bit n of h) or (the bit lost)
+// The first halving of the shift is an average, (a + b + 1) >> 1, which cannot overflow; the shifts are those of words,
+// of which only the bits that stay in their byte are kept.
+class ByteRight {
+public:
+  explicit ByteRight(int n)
+      : n_(shiftCount(n)),
+        rest_(shiftCount(n - 1)),
+        oddBit_(Vec<u8>::splat(n < 8 ? 1 : 0)),
+        addend_(Vec<u8>::splat(static_cast<u8>((1 << (n - 1)) - 2))),
+        kept_(Vec<u8>::splat(static_cast<u8>(0xFF >> (n - 1)))) {}
+
+  RNX_INLINE Vec<u8> operator()(Vec<u8> h, Vec<u8> lost) const {
+    const Vec<u8> odd = (shifted(h, n_) & oddBit_) | lost;
+    return shifted(average(h, addend_ + odd), rest_) & kept_;
+  }
+
+private:
+  static RNX_INLINE Vec<u8> shifted(Vec<u8> v, ShiftCount n) { return shiftRight(v.as<u16>(), n).as<u8>(); }
+
+  ShiftCount n_, rest_;
+  Vec<u8> oddBit_, addend_, kept_;
+};
+
+class ByteSumRight : public NoDivision<u8> {
+public:
+  explicit ByteSumRight(const BinaryCall<u8>& call) : NoDivision(call), right_(call.shift - 1) {}
+  static bool takes(int shift) { return shift >= 3; }
+
+  RNX_INLINE Vec<u8> operator()(Vec<u8> a, Vec<u8> b) const {
+    const Vec<u8> lost = (a ^ b) & Vec<u8>::splat(1);
+    return right_(average(a, b) - lost, lost);
+  }
+
+private:
+  ByteRight right_;
+};
+
+// Differences below 0 become 0 in any case.
+class ByteDifferenceRight : public NoDivision<u8> {
+public:
+  explicit ByteDifferenceRight(const BinaryCall<u8>& call) : NoDivision(call), right_(call.shift) {}
+  static bool takes(int shift) { return shift >= 2; }
+
+  RNX_INLINE Vec<u8> operator()(Vec<u8> a, Vec<u8> b) const { return right_(subSaturated(a, b), Vec<u8>::zero()); }
+
+private:
+  ByteRight right_;
+};
 
 // ---- 16s shifted right, in fewer steps than through the wide lanes ----
 
@@ -366,6 +433,20 @@ template <class T, class FAll, class FColors = FAll>
 constexpr BinaryForms<T> kForms = {images<T, FAll, AllChannels<T>>, constant<T, FAll, AllChannels<T>>,
                                    images<T, FColors, ColorChannels<T>>, constant<T, FColors, ColorChannels<T>>};
 
+// Few for the scale factors that it takes, Any for the others.
+template <class Few, class Any, class Channels>
+bool imagesByShift(const BinaryCall<u8>& call) {
+  return Few::takes(call.shift) ? images<u8, Few, Channels>(call) : images<u8, Any, Channels>(call);
+}
+template <class Few, class Any, class Channels>
+bool constantByShift(const BinaryCall<u8>& call) {
+  return Few::takes(call.shift) ? constant<u8, Few, Channels>(call) : constant<u8, Any, Channels>(call);
+}
+template <class Few, class Any>
+constexpr BinaryForms<u8> kFormsByShift = {
+    imagesByShift<Few, Any, AllChannels<u8>>, constantByShift<Few, Any, AllChannels<u8>>,
+    imagesByShift<Few, Any, ColorChannels<u8>>, constantByShift<Few, Any, ColorChannels<u8>>};
+
 template <class T, class Rounding, bool ScaledUp>
 constexpr BinaryForms<T> kDivide =
     kForms<T, Divide<T, Rounding, ScaledUp, AllChannels<T>>, Divide<T, Rounding, ScaledUp, ColorChannels<T>>>;
@@ -398,6 +479,9 @@ bool divideByConstant(const BinaryCall<u8>& call) {
 
 constexpr IntegerKernels<u8> of8u() {
   IntegerKernels<u8> kernels = kIntegerKernels<u8>;
+  kernels.addRight = kFormsByShift<ByteSumRight, ScaledRight<u8, Add>>;
+  kernels.subRight = kFormsByShift<ByteDifferenceRight, ScaledRight<u8, Sub>>;
+  kernels.mulRight = kFormsByShift<ByteProductRight, ScaledRight<u8, Mul>>;
   kernels.divEven.constant = divideByConstant;
   return kernels;
 }

@@ -27,18 +27,16 @@ template <class L, class T>
 RnxStatus runThreshold(ThresholdForms<T> ThresholdKernelsOf<T>::*forms, const T* src, int srcStep, T* dst, int dstStep,
                        RnxiSize roi, const T* low, const T* lowValue, const T* high, const T* highValue) {
   const ChannelValues<T, L> l(low), lv(lowValue), h(high), hv(highValue);
-  const s64 width = s64{roi.width} * L::kChannels;
-  const ThresholdCall<T> call = {
-      .rows = core::planRows(width, roi.height, core::operand(dst, dstStep, width), core::operand(src, srcStep, width)),
-      .src = src,
-      .srcStep = srcStep,
-      .dst = dst,
-      .dstStep = dstStep,
-      .period = L::kChannels,
-      .low = l.all,
-      .lowValue = lv.all,
-      .high = h.all,
-      .highValue = hv.all};
+  const ThresholdCall<T> call = {.rows = core::planRowsOf<L>(src, srcStep, dst, dstStep, roi),
+                                 .src = src,
+                                 .srcStep = srcStep,
+                                 .dst = dst,
+                                 .dstStep = dstStep,
+                                 .period = L::kChannels,
+                                 .low = l.all,
+                                 .lowValue = lv.all,
+                                 .high = h.all,
+                                 .highValue = hv.all};
   const auto& table = core::wideRows(call.rows.bytesMoved) ? v256::thresholdKernels : v128::thresholdKernels;
   const ThresholdForms<T>& chosen = kernelsOf(table, T{}).*forms;
   [[maybe_unused]] const simd::FloatStateFor<T> state;
@@ -55,8 +53,9 @@ struct Above {};
 // ---- Clamp to the threshold ----
 
 template <class T, class L>
-RnxStatus threshold(const T* src, int srcStep, T* dst, int dstStep, RnxiSize roi, Constant<T, L> level, int cmpOp) {
-  const T* t = valuesOf<T>(level);
+RnxStatus threshold(const T* src, int srcStep, T* dst, int dstStep, RnxiSize roi, core::Constant<T, L> level,
+                    int cmpOp) {
+  const T* t = core::valuesOf<T>(level);
   if (core::anyNull(src, dst, t)) return rnxStatusNullPointer;
   if (core::empty(roi)) return rnxStatusBadSize;
   if (core::anyStepBelow1(srcStep, dstStep)) return rnxStatusBadStep;
@@ -67,7 +66,7 @@ RnxStatus threshold(const T* src, int srcStep, T* dst, int dstStep, RnxiSize roi
 }
 
 template <class Side, class T, class L>
-RnxStatus thresholdSide(const T* src, int srcStep, T* dst, int dstStep, RnxiSize roi, Constant<T, L> level) {
+RnxStatus thresholdSide(const T* src, int srcStep, T* dst, int dstStep, RnxiSize roi, core::Constant<T, L> level) {
   constexpr int kCmpOp = std::is_same_v<Side, Above> ? rnxCmpGreater : rnxCmpLess;
   return threshold<T, L>(src, srcStep, dst, dstStep, roi, level, kCmpOp);
 }
@@ -75,9 +74,9 @@ RnxStatus thresholdSide(const T* src, int srcStep, T* dst, int dstStep, RnxiSize
 // ---- Replace by a value ----
 
 template <class Side, class T, class L>
-RnxStatus thresholdValueSide(const T* src, int srcStep, T* dst, int dstStep, RnxiSize roi, Constant<T, L> level,
-                             Constant<T, L> value) {
-  const T *t = valuesOf<T>(level), *v = valuesOf<T>(value);
+RnxStatus thresholdValueSide(const T* src, int srcStep, T* dst, int dstStep, RnxiSize roi, core::Constant<T, L> level,
+                             core::Constant<T, L> value) {
+  const T *t = core::valuesOf<T>(level), *v = core::valuesOf<T>(value);
   if (core::anyNull(src, dst, t, v)) return rnxStatusNullPointer;
   if (core::empty(roi)) return rnxStatusBadSize;
   if (core::anyStepBelow1(srcStep, dstStep)) return rnxStatusBadStep;
@@ -89,18 +88,19 @@ RnxStatus thresholdValueSide(const T* src, int srcStep, T* dst, int dstStep, Rnx
 
 // The selector is refused before anything else is looked at.
 template <class T, class L>
-RnxStatus thresholdValue(const T* src, int srcStep, T* dst, int dstStep, RnxiSize roi, Constant<T, L> level,
-                         Constant<T, L> value, int cmpOp) {
+RnxStatus thresholdValue(const T* src, int srcStep, T* dst, int dstStep, RnxiSize roi, core::Constant<T, L> level,
+                         core::Constant<T, L> value, int cmpOp) {
   if (!isThresholdSelector(cmpOp)) return rnxStatusUnsupportedMode;
   const auto side = cmpOp == rnxCmpGreater ? thresholdValueSide<Above, T, L> : thresholdValueSide<Below, T, L>;
   return side(src, srcStep, dst, dstStep, roi, level, value);
 }
 
 template <class T, class L>
-RnxStatus thresholdOutside(const T* src, int srcStep, T* dst, int dstStep, RnxiSize roi, Constant<T, L> thresholdLT,
-                           Constant<T, L> valueLT, Constant<T, L> thresholdGT, Constant<T, L> valueGT) {
-  const T *low = valuesOf<T>(thresholdLT), *lowValue = valuesOf<T>(valueLT);
-  const T *high = valuesOf<T>(thresholdGT), *highValue = valuesOf<T>(valueGT);
+RnxStatus thresholdOutside(const T* src, int srcStep, T* dst, int dstStep, RnxiSize roi,
+                           core::Constant<T, L> thresholdLT, core::Constant<T, L> valueLT,
+                           core::Constant<T, L> thresholdGT, core::Constant<T, L> valueGT) {
+  const T *low = core::valuesOf<T>(thresholdLT), *lowValue = core::valuesOf<T>(valueLT);
+  const T *high = core::valuesOf<T>(thresholdGT), *highValue = core::valuesOf<T>(valueGT);
   if (core::anyNull(src, dst, low, lowValue, high, highValue)) return rnxStatusNullPointer;
   if (core::empty(roi)) return rnxStatusBadSize;
   if (core::anyStepBelow1(srcStep, dstStep)) return rnxStatusBadStep;

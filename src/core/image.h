@@ -101,6 +101,13 @@ Rows planRows(s64 width, s64 height, const Operand& dst, const Sources&... src) 
   return rows;
 }
 
+// The same for a result of one source with pixels of the layout L.
+template <class L, class S, class D>
+Rows planRowsOf(const S* src, s64 srcStep, const D* dst, s64 dstStep, RnxiSize roi) {
+  const s64 width = s64{roi.width} * L::kChannels;
+  return planRows(width, roi.height, operand(dst, dstStep, width), operand(src, srcStep, width));
+}
+
 // The kernels exist twice, for 16-byte and for 32-byte vectors, with the same results. Asking for the processor's
 // features costs about 3 ns, which a call that moves less than this does not win back.
 inline bool wideRows(s64 bytesMoved) {

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <type_traits>
 
 #include "rnxip/types.h"
 
@@ -42,6 +43,19 @@ struct AC4 {
 
 template <class L>
 inline constexpr bool kHasAlpha = L::kUsed != L::kChannels;
+
+// A constant: a value for C1 and for a channel of interest, otherwise an array with one value per channel that is used.
+template <class T, class L>
+using Constant = std::conditional_t<L::kChannels == 1, T, const T*>;
+
+template <class T>
+const T* valuesOf(const T& value) {
+  return &value;
+}
+template <class T>
+const T* valuesOf(const T* const& values) {
+  return values;
+}
 
 }  // namespace core
 }  // namespace rnx

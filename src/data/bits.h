@@ -3,6 +3,7 @@
 
 #include "core/checks.h"
 #include "data/bits_kernels.h"
+#include "simd/float_state.h"
 
 namespace rnx::data {
 
@@ -52,6 +53,7 @@ RnxStatus grayToBits(const T* src, int srcStep, u8* dst, int dstStep, int dstBit
                               .dstStep = dstStep,
                               .offset = dstBitOffset % 8,
                               .threshold = threshold};
+  [[maybe_unused]] const simd::FloatStateFor<T> state;
   bitsForms<T>(roi).toBits(planned<T>(call, srcStep, dstStep));
   return rnxStatusNoError;
 }

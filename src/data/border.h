@@ -140,24 +140,24 @@ struct BorderCopy {
 
 template <class T, class L>
 struct ConstBorderCopy {
-  using Value = Constant<T, L>;
+  using Value = core::Constant<T, L>;
 
   static RnxStatus call(const T* src, int srcStep, RnxiSize srcRoi, T* dst, int dstStep, RnxiSize dstRoi, int top,
                         int left, Value value) {
-    return frameConst<T, L>(src, srcStep, dst, dstStep, layoutOf(srcRoi, dstRoi, top, left), valuesOf<T>(value));
+    return frameConst<T, L>(src, srcStep, dst, dstStep, layoutOf(srcRoi, dstRoi, top, left), core::valuesOf<T>(value));
   }
   static RnxStatus callLong(const T* src, s64 srcStep, const RnxiSizeL* srcRoi, T* dst, s64 dstStep,
                             const RnxiSizeL* dstRoi, s64 top, s64 left, Value value) {
     if (core::anyNull(srcRoi, dstRoi)) return rnxStatusNullPointer;
-    return frameConst<T, L>(src, srcStep, dst, dstStep, {*srcRoi, *dstRoi, top, left}, valuesOf<T>(value));
+    return frameConst<T, L>(src, srcStep, dst, dstStep, {*srcRoi, *dstRoi, top, left}, core::valuesOf<T>(value));
   }
   static RnxStatus inPlace(T* srcDst, int step, RnxiSize srcRoi, RnxiSize dstRoi, int top, int left, Value value) {
-    return frameConstInPlace<T, L>(srcDst, step, layoutOf(srcRoi, dstRoi, top, left), valuesOf<T>(value));
+    return frameConstInPlace<T, L>(srcDst, step, layoutOf(srcRoi, dstRoi, top, left), core::valuesOf<T>(value));
   }
   static RnxStatus inPlaceLong(T* srcDst, s64 step, const RnxiSizeL* srcRoi, const RnxiSizeL* dstRoi, s64 top, s64 left,
                                Value value) {
     if (core::anyNull(srcRoi, dstRoi)) return rnxStatusNullPointer;
-    return frameConstInPlace<T, L>(srcDst, step, {*srcRoi, *dstRoi, top, left}, valuesOf<T>(value));
+    return frameConstInPlace<T, L>(srcDst, step, {*srcRoi, *dstRoi, top, left}, core::valuesOf<T>(value));
   }
 };
 

@@ -18,15 +18,13 @@ const Entry& convertKernels(const core::Rows& rows) {
 
 template <class L, class S, class D>
 ConvertCall planConversion(const S* src, int srcStep, D* dst, int dstStep, RnxiSize roi) {
-  const s64 width = s64{roi.width} * L::kChannels;
-  return {
-      .rows = core::planRows(width, roi.height, core::operand(dst, dstStep, width), core::operand(src, srcStep, width)),
-      .src = src,
-      .srcStep = srcStep,
-      .dst = dst,
-      .dstStep = dstStep,
-      .shift = 0,
-      .factor = 1.0f};
+  return {.rows = core::planRowsOf<L>(src, srcStep, dst, dstStep, roi),
+          .src = src,
+          .srcStep = srcStep,
+          .dst = dst,
+          .dstStep = dstStep,
+          .shift = 0,
+          .factor = 1.0f};
 }
 
 template <class L>

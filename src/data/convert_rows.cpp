@@ -56,7 +56,7 @@ struct RoundedFunctor {
 
   template <int N>
   RNX_INLINE Block<D, N> operator()(const Block<S, N>& block) const {
-    return simd::roundTo<D, Rounding>(block);
+    return simd::roundTo<D, Rounding>(map(block, [](Vec<S> v) RNX_INLINE_LAMBDA { return inRegister(v); }));
   }
 };
 

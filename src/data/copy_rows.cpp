@@ -14,8 +14,32 @@ struct Same {
   }
 };
 
+// Rows of one vector to two, or of two to four: half of the vectors from either end, which may overlap. Such rows are
+// too short for the loop of forEachElement.
+template <int Half, class T>
+void copyShortRows(const CopyCall<T>& call) {
+  constexpr s64 L = Vec<T>::kLanes;
+  const T* src = call.src;
+  T* dst = call.dst;
+  const s64 end = call.rows.width - Half * L;
+  for (s64 y = 0; y < call.rows.height; ++y) {
+    Vec<T> v[2 * Half];
+    RNX_UNROLL
+    for (int k = 0; k < Half; ++k) v[k] = Vec<T>::load(src + k * L), v[Half + k] = Vec<T>::load(src + end + k * L);
+    RNX_UNROLL
+    for (int k = 0; k < Half; ++k) v[k].store(dst + k * L), v[Half + k].store(dst + end + k * L);
+    src = core::at(src, call.srcStep);
+    dst = core::at(dst, call.dstStep);
+  }
+}
+
 template <class Channels, class T>
 void copy(const CopyCall<T>& call) {
+  constexpr s64 L = Vec<T>::kLanes;
+  const s64 n = call.rows.width;
+  if (!Channels::kKeepsAlpha && call.rows.walk == core::Walk::kVectors && n >= L && n <= 4 * L) {
+    return n <= 2 * L ? copyShortRows<1>(call) : copyShortRows<2>(call);
+  }
   Same same;
   forEachElement<Channels>(call.rows, call.dst, call.dstStep, same, ImageSource<T>{call.src, call.srcStep});
 }

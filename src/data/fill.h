@@ -21,8 +21,8 @@ void fillPlane(const T* values, T* dst, s64 dstStep, s64 width, s64 height) {
 }
 
 template <class T, class L>
-RnxStatus set(Constant<T, L> value, T* dst, int dstStep, RnxiSize roi) {
-  const T* values = valuesOf<T>(value);
+RnxStatus set(core::Constant<T, L> value, T* dst, int dstStep, RnxiSize roi) {
+  const T* values = core::valuesOf<T>(value);
   if (core::anyNull(values, dst)) return rnxStatusNullPointer;
   if (core::empty(roi)) return rnxStatusBadSize;
 

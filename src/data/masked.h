@@ -40,12 +40,14 @@ RnxStatus copyMasked(const T* src, int srcStep, T* dst, int dstStep, RnxiSize ro
 }
 
 template <class T, class L>
-RnxStatus setMasked(Constant<T, L> value, T* dst, int dstStep, RnxiSize roi, const u8* mask, int maskStep) {
-  const T* values = valuesOf<T>(value);
+RnxStatus setMasked(core::Constant<T, L> value, T* dst, int dstStep, RnxiSize roi, const u8* mask, int maskStep) {
+  const T* values = core::valuesOf<T>(value);
   if (core::anyNull(values, dst, mask)) return rnxStatusNullPointer;
   if (core::empty(roi)) return rnxStatusBadSize;
 
-  runMasked<L, T>(nullptr, 0, values, dst, dstStep, roi, mask, maskStep);
+  T all[4] = {};  // the caller's array may lie in the image
+  for (int i = 0; i < L::kUsed; ++i) all[i] = values[i];
+  runMasked<L, T>(nullptr, 0, all, dst, dstStep, roi, mask, maskStep);
   return rnxStatusNoError;
 }
 

@@ -82,17 +82,4 @@ struct ByPixel {
   }
 };
 
-// A constant: a value for C1 and for a channel of interest, otherwise an array with one value per channel that is used.
-template <class T, class L>
-using Constant = std::conditional_t<L::kChannels == 1, T, const T*>;
-
-template <class T>
-const T* valuesOf(const T& value) {
-  return &value;
-}
-template <class T>
-const T* valuesOf(const T* const& values) {
-  return values;
-}
-
 }  // namespace rnx::data

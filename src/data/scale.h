@@ -13,17 +13,15 @@ namespace rnx::data {
 
 template <class L, class S, class D>
 ScaleCall planScale(const S* src, int srcStep, D* dst, int dstStep, RnxiSize roi) {
-  const s64 width = s64{roi.width} * L::kChannels;
-  return {
-      .rows = core::planRows(width, roi.height, core::operand(dst, dstStep, width), core::operand(src, srcStep, width)),
-      .src = src,
-      .srcStep = srcStep,
-      .dst = dst,
-      .dstStep = dstStep,
-      .low = 0,
-      .high = 0,
-      .factor = 0,
-      .sum = 0};
+  return {.rows = core::planRowsOf<L>(src, srcStep, dst, dstStep, roi),
+          .src = src,
+          .srcStep = srcStep,
+          .dst = dst,
+          .dstStep = dstStep,
+          .low = 0,
+          .high = 0,
+          .factor = 0,
+          .sum = 0};
 }
 
 inline const ScaleKernels& scaleKernels(const core::Rows& rows) {

@@ -19,7 +19,8 @@ inline bool rowsOverlap(const Block& a) {
   return a.height > 1 && (a.rows.step < 0 ? -a.rows.step : a.rows.step) < a.rows.rowBytes;
 }
 
-// Whether two blocks have a byte in common. Blocks side by side in one image have not.
+// Whether two blocks have a byte in common. Blocks side by side in one image have not; with different steps, or rows
+// longer than a step, it is enough that the bytes from the first to the last one of each meet.
 inline bool overlap(const Block& a, const Block& b) {
   const s64 distance = static_cast<s64>(b.rows.address - a.rows.address);
   if (distance + b.first() >= a.end() || distance + b.end() <= a.first()) return false;

@@ -2,10 +2,11 @@
 //
 // Rows are counted from the top of the bordered image. A row that needs no pixels of its own is read where it lies:
 // rows beyond the top and bottom are other rows of the image, or one row of the constant. Only the few pixels left and
-// right of a row are produced, in a copy of it.
+// right of a row are produced, in a copy of it or of its two ends.
 #pragma once
 
 #include <algorithm>
+#include <cstring>
 
 #include "core/image.h"
 #include "filter/border.h"
@@ -54,26 +55,52 @@ public:
     return source == kConstant ? constantRow_ : core::at(first_, source * step_);
   }
 
+  // Elements of a bordered row that come before those in memory, and after them.
+  s64 elementsBefore() const { return border_.columns.producedBefore * channels_; }
+  s64 elementsAfter() const { return border_.columns.producedAfter * channels_; }
+  template <class Unit>
+  Unit* inMemory(Unit* row) const {
+    return row + elementsBefore();
+  }
+
   // Produces the pixels left and right of a row whose part in memory stands in its place, in any representation.
   // constant: a pixel of the constant in the same representation.
   template <class Unit>
   void produceSides(Unit* row, const Unit* constant) const {
-    const Extent& e = border_.columns;
-    Unit* first = row + e.producedBefore * channels_;
-    for (s64 x = -e.producedBefore; x < 0; ++x) copyPixel(first, x, constant);
-    for (s64 x = e.size; x < e.size + e.producedAfter; ++x) copyPixel(first, x, constant);
+    const Unit* pixels = inMemory(row);
+    produceBefore(row, pixels, constant);
+    produceAfter(row + elementsBefore() + elements(), pixels, constant);
   }
-  template <class Unit>
-  Unit* inMemory(Unit* row) const {
-    return row + border_.columns.producedBefore * channels_;
+  // The first n elements of a bordered row, which reach into memory.
+  void copyHead(s64 y, s64 n, T* out, const T* constant) const {
+    const T* pixels = row(y);
+    std::memcpy(inMemory(out), pixels, static_cast<size_t>(n - elementsBefore()) * sizeof(T));
+    produceBefore(out, pixels, constant);
+  }
+  // Its elements from `from` on, which lies in memory.
+  void copyTail(s64 y, s64 from, T* out, const T* constant) const {
+    const T* pixels = row(y);
+    const s64 skipped = from - elementsBefore(), n = elements() - skipped;
+    std::memcpy(out, pixels + skipped, static_cast<size_t>(n) * sizeof(T));
+    produceAfter(out + n, pixels, constant);
   }
 
 private:
+  // What follows the pixels of a row in memory; it begins at `out`.
   template <class Unit>
-  RNX_INLINE void copyPixel(Unit* first, s64 x, const Unit* constant) const {
+  RNX_INLINE void produceAfter(Unit* out, const Unit* pixels, const Unit* constant) const {
+    const Extent& e = border_.columns;
+    for (s64 x = e.size; x < e.size + e.producedAfter; ++x, out += channels_) copyPixel(out, x, pixels, constant);
+  }
+  template <class Unit>
+  RNX_INLINE void produceBefore(Unit* out, const Unit* pixels, const Unit* constant) const {
+    for (s64 x = -border_.columns.producedBefore; x < 0; ++x, out += channels_) copyPixel(out, x, pixels, constant);
+  }
+  template <class Unit>
+  RNX_INLINE void copyPixel(Unit* out, s64 x, const Unit* pixels, const Unit* constant) const {
     const s64 source = sourcePosition(border_.kind, x, border_.columns.size);
-    const Unit* from = source == kConstant ? constant : first + source * channels_;
-    for (s64 c = 0; c < channels_; ++c) first[x * channels_ + c] = from[c];
+    const Unit* from = source == kConstant ? constant : pixels + source * channels_;
+    for (s64 c = 0; c < channels_; ++c) out[c] = from[c];
   }
 
   Border border_;

@@ -30,7 +30,15 @@ FilterKernel<T> chooseIntegerOrFloat(const IntegerFilters<T>& k, const FilterSpe
   return paired(spec, T{}) ? k.integer : k.wideInteger;
 }
 
+// Whether both the sums and the steps from them to results stay within 16 bits: a sum plus half a divisor, or the rest
+// of a division by a power of two.
+inline bool staysIn16(const FilterSpec& spec) {
+  const s32 largestDivisor = spec.divisorMode == DivisorMode::kPowerOfTwo ? 16384 : 255;
+  return fitBytes(spec) && spec.scaledOffset == 0 && spec.divisor > 0 && spec.divisor <= largestDivisor;
+}
+
 inline FilterKernel<u8> choose(const FilterKernels& k, const FilterSpec& spec, u8) {
+  if (spec.kind == KernelKind::kInteger8u && staysIn16(spec)) return k.bytesOf8u;
   return chooseIntegerOrFloat(k.of8u, spec, KernelKind::kInteger8u);
 }
 inline FilterKernel<s16> choose(const FilterKernels& k, const FilterSpec& spec, s16) {

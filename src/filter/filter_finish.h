@@ -5,6 +5,8 @@
 // its truncation is that of a / d as long as the error of the product is smaller.
 #pragma once
 
+#include <bit>
+
 #include "filter/filter_sums.h"
 #include "simd/cast.h"
 
@@ -18,23 +20,28 @@ inline constexpr bool kRoundsUp = !std::is_same_v<Rounding, RoundZero>;
 template <class Rounding>
 inline constexpr bool kTiesToEven = std::is_same_v<Rounding, RoundNearestEven>;
 
-// ---- Integer sums: functors from sums to results, still in 32 bits ----
+// ---- Integer sums: functors from sums to results, still in the lanes of the sums, of 32 or 16 bits ----
 
 struct NoDivision {
   explicit NoDivision(const FilterSpec&) {}
-  RNX_INLINE Vec<s32> operator()(Vec<s32> sum) const { return sum; }
+  template <class Lane>
+  RNX_INLINE Vec<Lane> operator()(Vec<Lane> sum) const {
+    return sum;
+  }
 };
 
 // sum / 2^shift = floor + rest / 2^shift, rounded by what is added to the rest.
-template <class Rounding>
+template <class Rounding, class Lane = s32>
 class Shift {
 public:
   explicit Shift(const FilterSpec& s)
-      : shift_(shiftCount(s.shift)), half_(Vec<s32>::splat(s.half)), mask_(Vec<s32>::splat(s.mask)) {}
+      : shift_(shiftCount(s.shift)),
+        half_(Vec<Lane>::splat(static_cast<Lane>(s.half))),
+        mask_(Vec<Lane>::splat(static_cast<Lane>(s.mask))) {}
 
-  RNX_INLINE Vec<s32> operator()(Vec<s32> sum) const {
-    const Vec<s32> floor = shiftRight(sum, shift_), rest = sum & mask_, one = Vec<s32>::splat(1);
-    const Vec<s32> minusOneBelow0 = greater(Vec<s32>::zero(), sum);
+  RNX_INLINE Vec<Lane> operator()(Vec<Lane> sum) const {
+    const Vec<Lane> floor = shiftRight(sum, shift_), rest = sum & mask_, one = Vec<Lane>::splat(1);
+    const Vec<Lane> minusOneBelow0 = greater(Vec<Lane>::zero(), sum);
     if constexpr (!kRoundsUp<Rounding>) {
       return floor + shiftRight(rest + (minusOneBelow0 & mask_), shift_);
     } else if constexpr (kTiesToEven<Rounding>) {
@@ -46,7 +53,35 @@ public:
 
 private:
   ShiftCount shift_;
-  Vec<s32> half_, mask_;
+  Vec<Lane> half_, mask_;
+};
+
+// Sums of bytes by 0 < d <= 255, in lanes of 16 bits; a negative sum is 0. For 0 <= n < 2^15, 2^k <= d < 2^(k+1) and
+// m = 2^(16+k) / d rounded down, plus 1: n m / 2^(16+k) exceeds n / d by less than n / 2^(16+k) < 1 / d, so that both
+// have the same integer part.
+template <class Rounding>
+class DivideSmall {
+public:
+  explicit DivideSmall(const FilterSpec& s)
+      : half_(splat(kRoundsUp<Rounding> ? s.divisor / 2 : 0)), divisor_(splat(s.divisor)) {
+    const int k = 31 - std::countl_zero(static_cast<u32>(s.divisor));
+    factor_ = splat((1 << (16 + k)) / s.divisor + 1);
+    shift_ = shiftCount(k);
+  }
+
+  RNX_INLINE Vec<s16> operator()(Vec<s16> sum) const {
+    const Vec<u16> n = max(sum, Vec<s16>::zero()).as<u16>() + half_;
+    const Vec<u16> up = shiftRight(multiplyHigh(n, factor_), shift_);
+    if constexpr (!kTiesToEven<Rounding>) return up.as<s16>();
+    const Vec<u16> tie = equal(up * divisor_, n).template as<u16>();
+    return (up - (up & tie & splat(1))).as<s16>();
+  }
+
+private:
+  static RNX_INLINE Vec<u16> splat(s32 v) { return Vec<u16>::splat(static_cast<u16>(v)); }
+
+  Vec<u16> half_, divisor_, factor_;
+  ShiftCount shift_;
 };
 
 // For 0 < d <= kLargestSingle. Up to the quotients q that do not saturate, 256.5 for 8u and 32769.5 for 16s, the
@@ -215,7 +250,7 @@ struct Unrounded {
   }
 };
 
-// Each vector of sums becomes a vector of 32-bit results.
+// Each vector of sums becomes a vector of results as wide.
 template <class T, class Result>
 class Rounded {
 public:
@@ -223,9 +258,8 @@ public:
 
   template <class V>
   RNX_INLINE void store(T* out, const SumBlock<V>& sums) const {
-    const Block<s32, SumBlock<V>::kElements> results = {
-        {result_(sums.a), result_(sums.b), result_(sums.c), result_(sums.d)}};
-    narrowTo<T>(results).store(out);
+    const Block<V, SumBlock<V>::kElements> block = {{sums.a, sums.b, sums.c, sums.d}};
+    narrowTo<T>(map(block, result_)).store(out);
   }
 
 private:
@@ -264,8 +298,9 @@ F byRounding(s32 roundMode, F zero, F even, F away) {
 // Next<F> is what stands between the sums and the division F.
 template <class T, template <class> class Next, class Zero, class Even, class Away>
 SumTwoRows<s32, T> sumPairsBy(s32 roundMode) {
-  return byRounding<SumTwoRows<s32, T>>(roundMode, sumPairs<T, Rounded<T, Next<Zero>>>,
-                                        sumPairs<T, Rounded<T, Next<Even>>>, sumPairs<T, Rounded<T, Next<Away>>>);
+  return byRounding<SumTwoRows<s32, T>>(roundMode, sumPairs<s32, T, Rounded<T, Next<Zero>>>,
+                                        sumPairs<s32, T, Rounded<T, Next<Even>>>,
+                                        sumPairs<s32, T, Rounded<T, Next<Away>>>);
 }
 
 template <class T, template <class> class Next>
@@ -274,7 +309,7 @@ SumTwoRows<s32, T> sumPairsOf(const FilterSpec& s) {
   using Even = RoundNearestEven;
   using Away = RoundHalfAway;
   constexpr bool kNegativeIsZero = std::is_unsigned_v<T>;
-  if (s.divisorMode == DivisorMode::kOne) return sumPairs<T, Rounded<T, Next<NoDivision>>>;
+  if (s.divisorMode == DivisorMode::kOne) return sumPairs<s32, T, Rounded<T, Next<NoDivision>>>;
   if (s.divisorMode == DivisorMode::kPowerOfTwo) {
     return sumPairsBy<T, Next, Shift<Zero>, Shift<Even>, Shift<Away>>(s.roundMode);
   }
@@ -302,6 +337,25 @@ inline SumTwoRows<s32, u8> sumsOfPairs(const FilterSpec& s, u8) {
   return needsSingle(s) ? sumPairsOf<u8, ThroughSingle>(s) : sumPairsOf<u8, Directly>(s);
 }
 inline SumTwoRows<s32, s16> sumsOfPairs(const FilterSpec& s, s16) { return sumPairsOf<s16, Directly>(s); }
+
+template <class Zero, class Even, class Away>
+SumTwoRows<s16, u8> sumBytePairsBy(s32 roundMode) {
+  return byRounding<SumTwoRows<s16, u8>>(roundMode, sumPairs<s16, u8, Rounded<u8, Zero>>,
+                                         sumPairs<s16, u8, Rounded<u8, Even>>, sumPairs<s16, u8, Rounded<u8, Away>>);
+}
+
+// Of a spec that staysIn16().
+inline SumTwoRows<s16, u8> sumsOfBytePairs(const FilterSpec& s) {
+  using Zero = RoundZero;
+  using Even = RoundNearestEven;
+  using Away = RoundHalfAway;
+  if (s.divisorMode == DivisorMode::kOne) return sumPairs<s16, u8, Rounded<u8, NoDivision>>;
+  if (s.divisorMode == DivisorMode::kPowerOfTwo) {
+    return sumBytePairsBy<Shift<Zero, s16>, Shift<Even, s16>, Shift<Away, s16>>(s.roundMode);
+  }
+  return s.divisor % 2 == 0 ? sumBytePairsBy<DivideSmall<Zero>, DivideSmall<Even>, DivideSmall<Away>>(s.roundMode)
+                            : sumBytePairsBy<DivideSmall<Zero>, DivideSmall<Away>, DivideSmall<Away>>(s.roundMode);
+}
 
 // Sums in the precision V with the finish of each rounding mode.
 template <class V, class T, class Zero, class Even, class Away>

@@ -169,11 +169,12 @@ inline s16 reversedTap(const FilterSpec& spec, const s16* kernel, s64 row, s64 c
   return kernel[taps(spec.width, spec.height) - 1 - (row * spec.width + column)];
 }
 
-inline void storePairs(FilterSpec* spec, const s16* kernel) {
-  PairTaps* pairs = pairsOf(spec);
+template <class Coefficient>
+void storePairs(FilterSpec* spec, const s16* kernel) {
+  PairTaps<Coefficient>* pairs = pairsOf<Coefficient>(spec);
   for (s64 p = 0; p < rowPairs(spec->height); ++p) {
     for (s64 i = 0; i < spec->width; ++i) {
-      const auto tap = [&](s64 row) { return reversedTap(*spec, kernel, row, i); };
+      const auto tap = [&](s64 row) { return static_cast<Coefficient>(reversedTap(*spec, kernel, row, i)); };
       *pairs++ = {.first = {tap(2 * p), tap(2 * p + 1)}, .second = {tap(2 * p - 1), tap(2 * p)}};
     }
   }
@@ -197,7 +198,8 @@ inline void initInteger(const s16* kernel, RnxiSize kernelSize, int divisor, int
   classifyDivisor(spec, divisor);
   surveyCoefficients(spec, kernel);
   storeReversed<f64>(spec, kernel, [](s16 c) { return static_cast<f64>(c); });
-  storePairs(spec, kernel);
+  storePairs<s16>(spec, kernel);
+  if (fitBytes(*spec)) storePairs<s8>(spec, kernel);
 }
 
 inline RnxStatus init16s(const s16* kernel, RnxiSize kernelSize, int divisor, int dataType, int channels, int roundMode,

@@ -10,10 +10,11 @@ namespace rnx::filter {
 // The memory of one call inside the caller's work buffer. A row element takes kUnit bytes whatever the image's type is:
 // a float, or the pair of two rows' pixels; 8 bytes for 64f.
 struct WorkBuffer {
-  const void** rows;  // the window: one address per row of the kernel, and one more
-  char* constantRow;  // stands in for rows outside the image
-  char* ring;         // bordered rows
-  char* results;      // two rows of results that cannot be written where they belong
+  const void** rows;     // the window: one address per row of the kernel, and one more
+  const void** endRows;  // the window of the rows' ends
+  char* constantRow;     // stands in for rows outside the image
+  char* ring;            // bordered rows
+  char* results;         // two rows of results that cannot be written where they belong
   s64 rowStep, bytes;
 };
 
@@ -36,6 +37,7 @@ inline WorkBuffer layOut(void* alignedBlock, s64 elements, s64 kernelHeight, s64
   }
   core::Carver carver(alignedBlock);
   w.rows = carver.take<const void*>(count);
+  w.endRows = carver.take<const void*>(count);
   w.constantRow = carver.take<char>(w.rowStep);
   w.ring = carver.take<char>(count * w.rowStep);
   w.results = carver.take<char>(2 * w.rowStep);
@@ -69,6 +71,7 @@ struct IntegerFilters {
 };
 
 struct FilterKernels {
+  FilterKernel<u8> bytesOf8u;  // sums that fit 16 bits, pixels multiplied in pairs of bytes
   IntegerFilters<u8> of8u;
   IntegerFilters<s16> of16s;
   FilterKernel<u16> of16u;

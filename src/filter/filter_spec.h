@@ -43,7 +43,7 @@ struct FilterSpec {
 //
 //   kFloat*      f32[width * height]
 //   kDouble64f   f64[width * height]
-//   kInteger*    f64[width * height], then the coefficient pairs, see pairsOf()
+//   kInteger*    f64[width * height], then the coefficient pairs of 16 bits and of 8, see pairsOf()
 inline constexpr s64 kKernelOffset = 128;
 static_assert(sizeof(FilterSpec) <= kKernelOffset);
 
@@ -64,17 +64,31 @@ const F* kernelOf(const FilterSpec* spec) {
 //   pair of image rows   y, y+1     y+2, y+3
 //   for result row y     (K0, K1)   (K2, 0)
 //   for result row y+1   (0, K0)    (K1, K2)
+template <class Coefficient>
 struct PairTaps {
-  s16 first[2], second[2];  // for the two result rows
+  Coefficient first[2], second[2];  // for the two result rows
 };
 
 inline s64 rowPairs(s64 kernelHeight) { return (kernelHeight + 2) / 2; }
 
-inline PairTaps* pairsOf(FilterSpec* spec) {
-  return reinterpret_cast<PairTaps*>(kernelOf<f64>(spec) + taps(spec->width, spec->height));
+// Coefficient: s16, or s8 where fitBytes().
+template <class Coefficient>
+const PairTaps<Coefficient>* pairsOf(const FilterSpec* spec) {
+  const auto* wide = reinterpret_cast<const PairTaps<s16>*>(kernelOf<f64>(spec) + taps(spec->width, spec->height));
+  if constexpr (std::is_same_v<Coefficient, s16>) {
+    return wide;
+  } else {
+    return reinterpret_cast<const PairTaps<s8>*>(wide + rowPairs(spec->height) * spec->width);
+  }
 }
-inline const PairTaps* pairsOf(const FilterSpec* spec) {
-  return reinterpret_cast<const PairTaps*>(kernelOf<f64>(spec) + taps(spec->width, spec->height));
+template <class Coefficient>
+PairTaps<Coefficient>* pairsOf(FilterSpec* spec) {
+  return const_cast<PairTaps<Coefficient>*>(pairsOf<Coefficient>(static_cast<const FilterSpec*>(spec)));
+}
+
+// Whether every coefficient is a signed byte, and the sums of any of its products with 8u pixels fit 16 bits.
+inline bool fitBytes(const FilterSpec& spec) {
+  return spec.positive <= 127 && spec.negative <= 128 && spec.fastInteger != 0;
 }
 
 // Whether a block can be a spec at all: one that was never filled is refused rather than followed.

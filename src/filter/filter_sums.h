@@ -24,11 +24,12 @@ RNX_INLINE Vec<V> loadUnits(const V* p) {
 template <class V>
 requires std::is_same_v<V, f64> RNX_INLINE Vec<V> loadUnits(const f32* p) { return loadHalfAsDouble(p); }
 
-// The next column of the kernel lies `pixel` elements further in a row.
+// The next column of the kernel lies `pixel` elements further in a row. Result elements [begin, end) are made; the
+// kernel's first column meets the element `shift` elements further in a row of the window.
 struct SumShape {
   s64 kernelWidth, kernelHeight;
   s64 pixel;
-  s64 elements;  // of a result row
+  s64 begin, end, shift;
 };
 
 template <class V>
@@ -43,36 +44,59 @@ struct SumBlock {
 template <class Unit, class T>
 using SumTwoRows = void (*)(const Unit* const* rows, const FilterSpec& spec, const SumShape& shape, T* out0, T* out1);
 
-// Calls block(x) for blocks that cover [0, n): the last one ends at n, and a row shorter than a block is one whole
-// block.
+// Calls block(x) for blocks that cover [begin, end): the last one ends at `end`, and a range shorter than a block is
+// one whole block.
 template <int Elements, class F>
-RNX_INLINE void forEachBlock(s64 n, F block) {
-  for (s64 x = 0;; x += Elements) {
-    if (x + Elements > n && n >= Elements) x = n - Elements;
+RNX_INLINE void forEachBlock(s64 begin, s64 end, F block) {
+  for (s64 x = begin;; x += Elements) {
+    if (x + Elements > end && end - begin >= Elements) x = end - Elements;
     block(x);
-    if (x + Elements >= n) return;
+    if (x + Elements >= end) return;
+  }
+}
+
+// Calls loop(width) with the width of the kernel: as a constant where it is a common one, so that short loops over the
+// columns unroll.
+template <class F>
+RNX_INLINE void withWidth(s64 kernelWidth, F loop) {
+  if (kernelWidth == 3) {
+    loop(std::integral_constant<int, 3>{});
+  } else {
+    loop(kernelWidth);
+  }
+}
+
+template <class Width, class F>
+RNX_INLINE void forEachColumn(Width width, F column) {
+  if constexpr (std::is_same_v<Width, s64>) {
+    for (s64 i = 0; i < width; ++i) column(i);
+  } else {
+    RNX_UNROLL
+    for (int i = 0; i < Width::value; ++i) column(i);
   }
 }
 
 // ---- Floating point ----
 
 // One row of the kernel, for the first and the second result row: they meet an image row with different kernel rows.
-template <bool First, bool Second, class V, class Unit>
+template <bool First, bool Second, class V, class Unit, class Width>
 RNX_INLINE void addRow(SumBlock<V>& first, SumBlock<V>& second, const Unit* p, const V* kFirst, const V* kSecond,
-                       const SumShape& shape) {
+                       Width width, s64 pixel) {
   constexpr int L = Vec<V>::kLanes;
-  for (s64 i = 0; i < shape.kernelWidth; ++i, p += shape.pixel) {
-    const Vec<V> k0 = Vec<V>::splat(First ? kFirst[i] : V(0)), k1 = Vec<V>::splat(Second ? kSecond[i] : V(0));
-    const auto add = [&](Vec<V> & sum0, Vec<V> & sum1, const Unit* at) __attribute__((always_inline)) {
-      const Vec<V> pixels = inRegister(loadUnits<V>(at));
-      if constexpr (First) sum0 = sum0 + pixels * k0;
-      if constexpr (Second) sum1 = sum1 + pixels * k1;
-    };
-    add(first.a, second.a, p);
-    add(first.b, second.b, p + L);
-    add(first.c, second.c, p + 2 * L);
-    add(first.d, second.d, p + 3 * L);
-  }
+  forEachColumn(
+      width, [&](s64 i) __attribute__((always_inline)) {
+        const Vec<V> k0 = Vec<V>::splat(First ? kFirst[i] : V(0)), k1 = Vec<V>::splat(Second ? kSecond[i] : V(0));
+        const auto add = [&](Vec<V> & sum0, Vec<V> & sum1, const Unit* at) __attribute__((always_inline)) {
+          const Vec<V> pixels = inRegister(loadUnits<V>(at));
+          if constexpr (First) sum0 = sum0 + pixels * k0;
+          if constexpr (Second) sum1 = sum1 + pixels * k1;
+        };
+        add(first.a, second.a, p);
+        add(first.b, second.b, p + L);
+        add(first.c, second.c, p + 2 * L);
+        add(first.d, second.d, p + 3 * L);
+        p += pixel;
+      });
 }
 
 // rows: kernelHeight + 1 rows. The first sum takes the kernel's rows from rows[0] on, the second from rows[1] on.
@@ -80,57 +104,76 @@ template <class V, class Unit, class T, class Finish>
 void sumRows(const Unit* const* rows, const FilterSpec& spec, const SumShape& shape, T* out0, T* out1) {
   const Finish finish(spec);
   const V* kernel = kernelOf<V>(&spec);
-  const s64 width = shape.kernelWidth, height = shape.kernelHeight;
-  forEachBlock<SumBlock<V>::kElements>(
-      shape.elements, [&](s64 x) __attribute__((always_inline)) {
-        SumBlock<V> first, second;
-        addRow<true, false>(first, second, rows[0] + x, kernel, kernel, shape);
-        for (s64 j = 1; j < height; ++j) {
-          const V* k = kernel + j * width;
-          addRow<true, true>(first, second, rows[j] + x, k, k - width, shape);
-        }
-        addRow<false, true>(first, second, rows[height] + x, kernel, kernel + (height - 1) * width, shape);
-        finish.store(out0 + x, first);
-        finish.store(out1 + x, second);
+  const s64 height = shape.kernelHeight, pixel = shape.pixel, shift = shape.shift;
+  withWidth(
+      shape.kernelWidth, [&](auto width) __attribute__((always_inline)) {
+        forEachBlock<SumBlock<V>::kElements>(
+            shape.begin, shape.end, [&](s64 x) __attribute__((always_inline)) {
+              const s64 at = x + shift;
+              SumBlock<V> first, second;
+              addRow<true, false>(first, second, rows[0] + at, kernel, kernel, width, pixel);
+              for (s64 j = 1; j < height; ++j) {
+                const V* k = kernel + j * width;
+                addRow<true, true>(first, second, rows[j] + at, k, k - width, width, pixel);
+              }
+              addRow<false, true>(first, second, rows[height] + at, kernel, kernel + (height - 1) * width, width,
+                                  pixel);
+              finish.store(out0 + x, first);
+              finish.store(out1 + x, second);
+            });
       });
 }
 
 // ---- Integers in pairs of rows ----
 
-RNX_INLINE Vec<s32> splatPair(const s16 (&pair)[2]) {
-  s32 both;
+// A lane holds a pair of pixels, or of coefficients, and takes the sum of their products: 16 bits in lanes of 32, or
+// bytes in lanes of 16.
+template <class Lane>
+using CoefficientOf = std::conditional_t<sizeof(Lane) == 4, s16, s8>;
+
+template <class Lane>
+RNX_INLINE Vec<Lane> splatPair(const CoefficientOf<Lane> (&pair)[2]) {
+  Lane both;
   std::memcpy(&both, pair, sizeof both);
-  return Vec<s32>::splat(both);
+  return Vec<Lane>::splat(both);
+}
+
+// One row of pairs, for both result rows.
+template <class Lane, class Width>
+RNX_INLINE void addPairs(SumBlock<Lane>& first, SumBlock<Lane>& second, const Lane* p,
+                         const PairTaps<CoefficientOf<Lane>>* tap, Width width, s64 pixel) {
+  constexpr int L = Vec<Lane>::kLanes;
+  forEachColumn(
+      width, [&](s64 i) __attribute__((always_inline)) {
+        const Vec<Lane> k0 = splatPair<Lane>(tap[i].first), k1 = splatPair<Lane>(tap[i].second);
+        const auto add = [&](Vec<Lane> & sum0, Vec<Lane> & sum1, const Lane* at) __attribute__((always_inline)) {
+          const Vec<Lane> pixels = inRegister(Vec<Lane>::load(at));
+          sum0 = sum0 + multiplyLanes(pixels, k0);
+          sum1 = sum1 + multiplyLanes(pixels, k1);
+        };
+        add(first.a, second.a, p);
+        add(first.b, second.b, p + L);
+        add(first.c, second.c, p + 2 * L);
+        add(first.d, second.d, p + 3 * L);
+        p += pixel;
+      });
 }
 
 // pairs: rowPairs(kernelHeight) rows of interleaved pixels of two image rows.
-template <class T, class Finish>
-void sumPairs(const s32* const* pairs, const FilterSpec& spec, const SumShape& shape, T* out0, T* out1) {
-  constexpr int L = Vec<s32>::kLanes;
+template <class Lane, class T, class Finish>
+void sumPairs(const Lane* const* pairs, const FilterSpec& spec, const SumShape& shape, T* out0, T* out1) {
   const Finish finish(spec);
-  const PairTaps* taps = pairsOf(&spec);
-  const s64 count = rowPairs(shape.kernelHeight);
-  forEachBlock<SumBlock<s32>::kElements>(
-      shape.elements, [&](s64 x) __attribute__((always_inline)) {
-        SumBlock<s32> first, second;
-        const PairTaps* tap = taps;
-        for (s64 j = 0; j < count; ++j) {
-          const s32* p = pairs[j] + x;
-          for (s64 i = 0; i < shape.kernelWidth; ++i, ++tap, p += shape.pixel) {
-            const Vec<s32> k0 = splatPair(tap->first), k1 = splatPair(tap->second);
-            const auto add = [&](Vec<s32> & sum0, Vec<s32> & sum1, const s32* at) __attribute__((always_inline)) {
-              const Vec<s32> pixels = inRegister(Vec<s32>::load(at));
-              sum0 = sum0 + multiplyPairs(pixels, k0);
-              sum1 = sum1 + multiplyPairs(pixels, k1);
-            };
-            add(first.a, second.a, p);
-            add(first.b, second.b, p + L);
-            add(first.c, second.c, p + 2 * L);
-            add(first.d, second.d, p + 3 * L);
-          }
-        }
-        finish.store(out0 + x, first);
-        finish.store(out1 + x, second);
+  const auto* taps = pairsOf<CoefficientOf<Lane>>(&spec);
+  const s64 count = rowPairs(shape.kernelHeight), pixel = shape.pixel;
+  withWidth(
+      shape.kernelWidth, [&](auto width) __attribute__((always_inline)) {
+        forEachBlock<SumBlock<Lane>::kElements>(
+            shape.begin, shape.end, [&](s64 x) __attribute__((always_inline)) {
+              SumBlock<Lane> first, second;
+              for (s64 j = 0; j < count; ++j) addPairs(first, second, pairs[j] + x, taps + j * width, width, pixel);
+              finish.store(out0 + x, first);
+              finish.store(out1 + x, second);
+            });
       });
 }
 

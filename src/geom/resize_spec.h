@@ -170,10 +170,12 @@ inline bool isSound(const Axis& axis) {
 }
 
 // The tag names the functions that may use the spec. The rest of the header is looked at as well, so that a block that
-// was overwritten is refused rather than followed.
+// was overwritten is refused rather than followed. The linear kernels keep two rows, whatever the buffer was sized for.
 inline bool isSpec(const ResizeSpec& spec, u32 tag) {
   constexpr u32 kMostTaps = 3;
-  return spec.tag == tag && spec.taps <= kMostTaps && isSound(spec.vertical) && isSound(spec.horizontal);
+  const bool plainLinear = spec.interpolation == rnxLinear && spec.antialiasing == 0;
+  const bool tapsFit = plainLinear ? spec.taps == 1 : spec.taps <= kMostTaps;
+  return spec.tag == tag && tapsFit && isSound(spec.vertical) && isSound(spec.horizontal);
 }
 
 // ---- Mapping ----

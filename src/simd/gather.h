@@ -5,6 +5,7 @@
 // offset behind it (the pick).
 #pragma once
 
+#include "simd/pairs.h"
 #include "simd/rows.h"
 #include "simd/saturate.h"
 
@@ -138,9 +139,6 @@ RNX_INLINE Vec<u8> squareMeans4(const u8* above, const u8* below) {
 
 // (a * b + 2^14) >> 15 of signed factors whose product does not overflow it.
 RNX_INLINE Vec<s16> multiplyRounded(Vec<s16> a, Vec<s16> b) { return Vec<s16>::of(RNX_MM(mulhrs_epi16)(a.bits(), b.bits())); }
-// Sums of the products of neighbouring elements.
-RNX_INLINE Vec<s16> multiplyPairs(Vec<u8> a, Vec<s8> b) { return Vec<s16>::of(RNX_MM(maddubs_epi16)(a.bits(), b.bits())); }
-RNX_INLINE Vec<s32> multiplyPairs(Vec<s16> a, Vec<s16> b) { return Vec<s32>::of(RNX_MM(madd_epi16)(a.bits(), b.bits())); }
 
 template <int N> RNX_INLINE Vec<s32> shiftRightBy(Vec<s32> v) { return Vec<s32>::of(RNX_MM(srai_epi32)(v.bits(), N)); }
 

@@ -21,9 +21,22 @@ constexpr int kAddsPerRound = kRoundVectors / kApart<C>;
 
 // ---- Totals by channel of lanes that stand for every stride-th element ----
 
+// Squares of words pass 64 bits from 2^32 pixels on.
+__extension__ typedef unsigned __int128 u128;
+
+// Rounded once: below the 64 leading bits only matters whether anything is left.
+inline f64 nearestDouble(u128 v) {
+  constexpr int kBias = 1023, kMantissa = 52;
+  const auto high = static_cast<u64>(v >> 64);
+  const int below = 64 - std::countl_zero(high);
+  const bool rest = static_cast<u64>(v & ((u128{1} << below) - 1)) != 0;
+  return static_cast<f64>(static_cast<u64>(v >> below) | u64{rest}) *
+         std::bit_cast<f64>(static_cast<u64>(kBias + below) << kMantissa);
+}
+
 template <int C>
 struct Totals {
-  u64 of[C] = {};
+  u128 of[C] = {};
 
   template <class T>
   RNX_INLINE void add(Vec<T> lanes, int first, int stride) {
@@ -31,7 +44,7 @@ struct Totals {
     for (int j = 0; j < Vec<T>::kLanes; ++j) of[(first + j * stride) % C] += static_cast<u64>(lanes.raw[j]);
   }
   void deliver(f64* results) const {
-    for (int c = 0; c < C; ++c) results[c] = static_cast<f64>(of[c]);
+    for (int c = 0; c < C; ++c) results[c] = nearestDouble(of[c]);
   }
 };
 

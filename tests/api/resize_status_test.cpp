@@ -253,6 +253,14 @@ TEST_P(ResizeTile, SurvivesDamagedTables) {
       put(aligned + at, 0, saved);
     }
   }
+  // The number of taps sizes the buffer: another one than that of the kernels is refused.
+  constexpr s64 kTaps = 12;
+  for (const s32 taps : {0, 2, 3, 4, -1}) {
+    const s32 saved = get<s32>(aligned + kTaps);
+    put(aligned + kTaps, 0, taps);
+    EXPECT_EQ(run(0, 0, {10, 9}, 1, plan_.spec()), linear_ || taps < 0 || taps > 3 ? -13 : 0) << taps;
+    put(aligned + kTaps, 0, saved);
+  }
   EXPECT_TRUE(plan_.specUnchanged());
 }
 

@@ -79,7 +79,12 @@ bool BinaryDriver::check(const BinaryWork& w) {
   for (int width : vectorWidths()) {
     ScopedWidth scope(width);
     for (Image* image : images) image->rewind();
+    const unsigned before = _mm_getcsr();
+    _mm_setcsr(controlState);
     const RnxStatus status = call_();
+    const unsigned after = _mm_getcsr();
+    _mm_setcsr(before);
+    EXPECT_TRUE(isFloat || after == controlState);
     for (Image* image : images) {
       const auto result = image->matches(image == w.dst.image ? signature.source() : Element::k8u);
       if (status == expected && result) continue;

@@ -1,6 +1,8 @@
 // Runs one call of a binary arithmetic function against the model, with both vector widths.
 #pragma once
 
+#include <xmmintrin.h>
+
 #include <vector>
 
 #include "ref/arith_model.h"
@@ -38,6 +40,7 @@ public:
   const bool inPlace, withConstant, isFloat, checksSteps;
   const int pixelBytes;
   const ref::Op op;
+  unsigned controlState = _mm_getcsr();  // of floating point, during calls
 
   // Fails the test and returns false where the library and the model differ.
   bool check(const BinaryWork& work);

@@ -1,4 +1,6 @@
 // Gray and one-bit images, every export at every bit offset against a loop over bits.
+#include <xmmintrin.h>
+
 #include <cmath>
 
 #include "kernel/data_support.h"
@@ -11,6 +13,9 @@ bool getBit(const u8* row, s64 i) { return (row[i / 8] >> (i % 8) & 1) != 0; }
 void putBit(u8* row, s64 i, bool bit) {
   row[i / 8] = static_cast<u8>((row[i / 8] & ~(1 << i % 8)) | (bit ? 1 << i % 8 : 0));
 }
+
+// Of floating point, the caller's own: as usual, denormals flushed, exceptions that would trap.
+constexpr unsigned kControlStates[] = {0x1f80, 0x9fc0, 0x0000};
 
 class OneBit : public testing::TestWithParam<const Signature*> {
 protected:
@@ -52,7 +57,13 @@ protected:
     } else {
       call.set("loVal", low).set("hiVal", high);
     }
-    ASSERT_EQ(call(), rnxStatusNoError);
+    const unsigned before = _mm_getcsr(), own = random.pick(kControlStates);
+    _mm_setcsr(own);
+    const RnxStatus status = call();
+    const unsigned after = _mm_getcsr();
+    _mm_setcsr(before);
+    ASSERT_EQ(status, rnxStatusNoError);
+    ASSERT_EQ(after, own);
     ASSERT_TRUE(bits.matches()) << width << "x" << height << " offset " << offset;
     ASSERT_TRUE(pixels.matches()) << width << "x" << height << " offset " << offset;
   }

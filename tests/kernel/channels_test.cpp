@@ -94,7 +94,8 @@ protected:
   const Signature& s = *GetParam();
   Random random{s.name};
   Form form = formOf(s);
-  u8 values[16] = {};  // one constant per channel, 4 bytes apart
+  u8 values[16] = {};                // one constant per channel, 4 bytes apart
+  const u8* valuesInside = nullptr;  // where they lie in an image of the call
   int order[4] = {};
   Steps steps = s.family == "SwapChannels" ? Steps::kApart : Steps::kAny;
 
@@ -152,7 +153,8 @@ protected:
     if (s.family == "Set" || s.layout == "C3C4") {
       const size_t index = call.indexOf(s.family == "Set" ? "value" : "val");
       if (s.parameters()[index].isPointer()) {
-        call.setAt(index, atTheEnd(arrays[2], packed, used * static_cast<size_t>(form.element)));
+        const size_t bytes = used * static_cast<size_t>(form.element);
+        call.setAt(index, valuesInside != nullptr ? valuesInside : atTheEnd(arrays[2], packed, bytes));
       } else {
         withType(s.source(), [&](auto zero) {
           if constexpr (sizeof(zero) <= 4) call.setAt(index, get<decltype(zero)>(values));
@@ -222,6 +224,10 @@ protected:
     lay(form.src, form.rowBytes(form.src, width), src);
     lay(form.dst, form.rowBytes(form.dst, width), dst);
     if (form.masked) lay({1, true}, width, mask);
+    valuesInside = s.family == "Set" && random.oneIn(2) ? arena.place(4 * form.element, 1, 0, other) : nullptr;
+    for (int c = 0; c < 4 && valuesInside != nullptr && s.layout != "C1"; ++c) {
+      std::memcpy(values + 4 * c, valuesInside + c * form.element, static_cast<size_t>(form.element));
+    }
     // SwapChannels C3R in place has one step.
     if (s.family == "SwapChannels" && s.layout == "C3" && src.data[0] == dst.data[0]) src.step = dst.step;
     ASSERT_NO_FATAL_FAILURE(run(width, height, src, dst, mask));

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <climits>
+#include <numeric>
 #include <thread>
 
 #include "ref/filter_model.h"
@@ -333,9 +334,9 @@ INSTANTIATE_TEST_SUITE_P(Table, FilterBorder, testing::ValuesIn(select({.family 
 // ---- Division ----
 
 // Quotients on and beside all ties, for every divisor, rounding mode and offset. Sums of all values from a to b appear.
-void checkDivision(const char* name, Job job, std::span<const int> offsets) {
+void checkDivision(const char* name, Job job, std::span<const int> offsets, std::span<const int> divisors = kDivisors) {
   Caller caller(name);
-  for (const int divisor : kDivisors) {
+  for (const int divisor : divisors) {
     for (const int offset : offsets) {
       for (job.roundMode = 0; job.roundMode <= 2; ++job.roundMode) {
         job.divisor = divisor, job.offset = offset;
@@ -350,6 +351,17 @@ TEST(FilterDivision, Of8u) {
   for (const f64 c : {1.0, -1.0, 3.0, 64.0, 255.0, 2048.0, 32766.0, -32768.0}) {
     Job job{.kw = 2, .kh = 1, .width = 400, .height = 3, .kernelType = rnx16s, .kernel = {c, 1}, .data = Data::kBits};
     checkDivision("rnxiFilterBorder_8u_C1R", job, std::to_array({0, 1, -100, 100000}));
+  }
+}
+
+// Kernels whose sums stay within 16 bits, up to the last.
+TEST(FilterDivision, OfBytes) {
+  std::vector<int> divisors(257);
+  std::iota(divisors.begin(), divisors.end(), 1);
+  divisors.insert(divisors.end(), {512, 8192, 16384, 32768, 1 << 20, -1, -255});
+  for (const f64 c : {126.0, 127.0, -128.0, -129.0}) {
+    Job job{.kw = 2, .kh = 1, .width = 400, .height = 3, .kernelType = rnx16s, .kernel = {c, 1}, .data = Data::kBits};
+    checkDivision("rnxiFilterBorder_8u_C1R", job, std::to_array({0}), divisors);
   }
 }
 

@@ -160,6 +160,21 @@ TEST_P(Stats, NothingOverflows) {
   });
 }
 
+// More than 2^32 squares of 65535 pass 64 bits: rows that begin one pixel apart make them out of one.
+TEST_P(Stats, SquaresPass64Bits) {
+  if (!is("L2") || relative || signature.layout != "C1" || signature.source() == Element::k8u || isFloat) return;
+  constexpr s64 kWidth = 1 << 17, kHeight = (1 << 15) + 2;
+  const bool isSigned = signature.source() == Element::k16s;
+  if (isSigned && !two) return;  // 2^30 is the largest square
+  std::vector<u16> high(kWidth + kHeight, isSigned ? 0x7fff : 0xffff), low(high.size(), isSigned ? 0x8000 : 0);
+  f64 result = 0;
+  Call call(signature);
+  two ? call.image("src1", high.data(), 2).image("src2", low.data(), 2) : call.image("src", high.data(), 2);
+  call.roi(kWidth, kHeight).setAt(signature.parameters().size() - 1, &result);
+  ASSERT_EQ(call(), rnxStatusNoError);
+  EXPECT_EQ(result, std::sqrt(65535.0 * 65535 * (kWidth * kHeight)));  // 47 significant bits
+}
+
 // The accurate sums of floats bit by bit: rows in double precision, even and odd pixels apart, the rows one after the
 // other.
 TEST_P(Stats, AccurateSumsAreInOrder) {

@@ -1,13 +1,16 @@
 #!/usr/bin/env python3
 """The Python binding against NumPy: which export is picked, regions without copies, results, errors."""
 
+import ctypes
 import re
 import unittest
 import warnings
+from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 import numpy
 import rnxip
+from rnxip import _library
 
 ROOT = Path(__file__).resolve().parent.parent.parent
 RANDOM = numpy.random.default_rng(5)
@@ -209,6 +212,28 @@ class Whole(unittest.TestCase):
         self.assertGreater(len(names), 1800)
         for name in names:
             self.assertTrue(callable(getattr(rnxip.raw, name)), name)
+
+    def test_structures_are_those_of_the_header(self):
+        header = (ROOT / "include/rnxip/types.h").read_text()
+        kinds = {"int32_t": ctypes.c_int32, "int64_t": ctypes.c_int64, "char": ctypes.c_char * 4, "const char*": ctypes.c_char_p}
+        structures = (_library.Size, _library.SizeL, _library.Rect, _library.Point, _library.PointL)
+        for structure in (*structures, _library.LibraryVersion):
+            name = structure.__name__ if structure in structures else "RnxLibraryVersion"
+            body = re.search(rf"typedef struct {name} \{{(.*?)\}}", header, re.DOTALL)[1]
+            fields = [
+                (re.sub(r"\W.*|_", "", field).lower(), kinds[kind])
+                for kind, names in re.findall(r"^  ((?:const )?\w+\*?) ([^;]+);", body, re.MULTILINE)
+                for field in names.split(", ")
+            ]
+            self.assertEqual([(field.replace("_", ""), kind) for field, kind in structure._fields_], fields, name)
+
+    def test_calls_release_the_interpreter_lock(self):
+        holds_lock = 0x4  # of ctypes.PyDLL
+        self.assertEqual(_library._library()._FuncPtr._flags_ & holds_lock, 0)
+        images = [image("uint8", 480, 640) for _ in range(8)]
+        with ThreadPoolExecutor(8) as threads:
+            for got, a in zip(threads.map(lambda a: rnxip.add_c(a, 9, 1), images * 8), images * 8, strict=True):
+                numpy.testing.assert_array_equal(got, numpy.rint((a.astype(int) + 9) / 2).astype("uint8"))
 
     def test_version(self):
         self.assertEqual(rnxip.version()["major"], 2021)
