@@ -87,7 +87,7 @@ add_custom_target(no_weak_symbols DEPENDS ${WEAK_CHECK})
 # ---- rnxip ----
 
 add_library(rnxip SHARED
-  src/core/dispatch.cpp src/core/entries.S src/fft/plan.cpp
+  src/core/dispatch.cpp src/core/entries.S src/fft/lengths.cpp src/fft/plan.cpp src/fft/shape.cpp
   $<TARGET_OBJECTS:rnxip_rows128> $<TARGET_OBJECTS:rnxip_rows256>)
 add_library(rnxip::rnxip ALIAS rnxip)
 rnx_shared_object(rnxip)

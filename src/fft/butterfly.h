@@ -35,9 +35,9 @@ constexpr Root rootOf(int k, int n) {
 }
 
 template <int K, int N>
-inline constexpr f32 kCosine = static_cast<f32>(rootOf(K, N).cosine);
+inline constexpr f64 kCosine = rootOf(K, N).cosine;
 template <int K, int N>
-inline constexpr f32 kSine = static_cast<f32>(rootOf(K, N).sine);
+inline constexpr f64 kSine = rootOf(K, N).sine;
 
 // ---- Unrolling ----
 
@@ -70,13 +70,13 @@ RNX_INLINE Complex<V> rotate(Complex<V> x) {
   } else if constexpr (4 * k == N) {
     return timesMinusI(x);
   } else if constexpr (8 * k == N) {
-    const V c = V::splat(kCosine<1, 8>);
+    const V c = splatConstant<V>(kCosine<1, 8>);
     return {(x.re + x.im) * c, (x.im - x.re) * c};
   } else if constexpr (8 * k == 3 * N) {
-    const V c = V::splat(kCosine<1, 8>), minus = V::splat(-kCosine<1, 8>);
+    const V c = splatConstant<V>(kCosine<1, 8>), minus = splatConstant<V>(-kCosine<1, 8>);
     return {(x.im - x.re) * c, (x.re + x.im) * minus};
   } else {
-    const V c = V::splat(kCosine<k, N>), s = V::splat(kSine<k, N>);
+    const V c = splatConstant<V>(kCosine<k, N>), s = splatConstant<V>(kSine<k, N>);
     return {x.re * c + x.im * s, x.im * c - x.re * s};
   }
 }
@@ -114,11 +114,12 @@ struct Butterfly {
     x.set(0, total);
     unroll<1, kHalf + 1>([&](auto output) RNX_LAMBDA {
       constexpr int j = decltype(output)::value;
-      Complex<V> r = first + sum[1] * V::splat(kCosine<j, P>), i = difference[1] * V::splat(kSine<j, P>);
+      Complex<V> r = first + sum[1] * splatConstant<V>(kCosine<j, P>),
+                 i = difference[1] * splatConstant<V>(kSine<j, P>);
       unroll<2, kHalf + 1>([&](auto index) RNX_LAMBDA {
         constexpr int k = decltype(index)::value;
-        r = r + sum[k] * V::splat(kCosine<k * j, P>);
-        i = i + difference[k] * V::splat(kSine<k * j, P>);
+        r = r + sum[k] * splatConstant<V>(kCosine<k * j, P>);
+        i = i + difference[k] * splatConstant<V>(kSine<k * j, P>);
       });
       x.set(j, {r.re + i.im, r.im - i.re});
       x.set(P - j, {r.re - i.im, r.im + i.re});

@@ -9,28 +9,18 @@
 
 #include <algorithm>
 
-#include "core/image.h"
+#include "fft/line.h"
 #include "fft/passes.h"
 #include "fft/transform_kernels.h"
 
 namespace rnx::fft {
 namespace {
 
-// The numbers of a line in an image: number j has its real part at j * step, its imaginary part imStep behind it.
-struct Line {
-  f32* first;
-  s64 step, imStep;  // bytes
-
-  bool isContiguous() const { return step == sizeof(fc32) && imStep == sizeof(f32); }
-  f32* re(s64 j) const { return core::at(first, j * step); }
-  f32* im(s64 j) const { return core::at(first, j * step + imStep); }
-};
-
 template <class V>
 class Grid {
 public:
   static constexpr s64 L = V::kLanes;
-  static constexpr int G = kGroup<V>;
+  static constexpr int G = 4;  // columns that are transposed at a time
 
   explicit Grid(const TransformCall& c)
       : call(c),
@@ -39,8 +29,7 @@ public:
         rows(*c.spec, c.spec->plans[0]),
         columns(*c.spec, c.spec->plans[c.spec->columnPlan]),
         strips(c.work),
-        line(core::at(c.work, c.spec->stripBytes)),
-        tile(core::at(line, c.spec->lineBytes)) {}
+        tile(core::at(c.work, c.spec->stripBytes)) {}
 
   RNX_INLINE void storeInput(s64 j, Complex<V> x) const { storeElement(tile + j * kElement<V>, x); }
   RNX_INLINE Outputs<V> outputsOf(const Transform<V>& transform) const {
@@ -62,7 +51,7 @@ public:
     storeColumns([&](int r) RNX_LAMBDA { return base + L + rowOf(r) * kElement<V>; }, im);
   }
   static RNX_INLINE s64 inOrder(int r) { return r; }
-  static RNX_INLINE s64 inPairs(int r) { return pairedElement<V>(r); }
+  static RNX_INLINE s64 inPairs(int r) { return simd::pairedElement(r); }
 
   // ---- Rows of complex images ----
 
@@ -91,7 +80,7 @@ public:
         V re[G], im[G];
         unroll<0, G>([&](auto index) RNX_LAMBDA {
           constexpr int i = decltype(index)::value;
-          const Complex<V> x = outputs[start + pairedElement<V>(group.value * G + i)] * factor;
+          const Complex<V> x = outputs[start + simd::pairedElement(group.value * G + i)] * factor;
           re[i] = x.re;
           im[i] = x.im;
         });
@@ -158,7 +147,7 @@ public:
         V re[G], im[G];
         unroll<0, G>([&](auto index) RNX_LAMBDA {
           constexpr int i = decltype(index)::value;
-          const s64 k1 = start + pairedElement<V>(group.value * G + i);
+          const s64 k1 = start + simd::pairedElement(group.value * G + i);
           const Complex<V> w = loadPairs<V>(twiddles + 2 * k1 * height);
           const Complex<V> x = outputs[k1] * Complex<V>{w.re, w.im * sign};
           re[i] = x.re;
@@ -170,18 +159,10 @@ public:
     storeColumnsOf(scale, [&](s64 k2, s64 k1, Complex<V> x) RNX_LAMBDA { storeLine(to, k2 * width + k1, x); });
   }
 
-  void shortLine(const Line& from, const Line& to, f32 scale) const {
-    for (s64 j = 0; j < width; ++j) storeInput(j, loadLine(from, j));
-    rows.run(tile, tile);
-    const Outputs<V> outputs = outputsOf(rows);
-    for (s64 k = 0; k < width; ++k) storeLine(to, k, outputs[k] * V::splat(scale));
-  }
-
   const TransformCall& call;
   const s64 width, height;
   const Transform<V> rows, columns;
   f32* const strips;
-  f32* const line;
   f32* const tile;
 };
 

@@ -4,6 +4,8 @@
 
 #include <cstring>
 
+#include "fft/spec.h"
+#include "simd/halves.h"
 #include "simd/transpose.h"
 
 // Lambdas of the inner loops: their captures must stay in registers.
@@ -31,6 +33,63 @@ struct Single {
 RNX_INLINE Single operator+(Single a, Single b) { return {a.raw + b.raw}; }
 RNX_INLINE Single operator-(Single a, Single b) { return {a.raw - b.raw}; }
 RNX_INLINE Single operator*(Single a, Single b) { return {a.raw * b.raw}; }
+
+// Lanes of a tile of V that compute in double precision: each load widens, each store rounds. Where one register does
+// not hold all lanes of V, kAtOnce are computed side by side.
+template <class V>
+struct Precise;
+
+template <>
+struct Precise<Single> {
+  static constexpr int kLanes = 1, kAtOnce = 1;
+  f64 raw;
+
+  static RNX_INLINE Precise splat(f64 v) { return {v}; }
+  static RNX_INLINE Precise load(const f32* p) { return {simd::loadOne(p)}; }
+  RNX_INLINE void store(f32* p) const { write(p, static_cast<f32>(raw)); }
+};
+
+template <>
+struct Precise<Vec<f32>> {
+  static constexpr int kLanes = Vec<f32>::kLanes, kAtOnce = kLanes / 2;
+  Vec<f64>::Raw raw;
+
+  static RNX_INLINE Precise splat(f64 v) { return {Vec<f64>::splat(v).raw}; }
+  static RNX_INLINE Precise load(const f32* p) { return {simd::loadHalfAsDouble(p).raw}; }
+  RNX_INLINE void store(f32* p) const { simd::storeAsSingle(p, Vec<f64>{raw}); }
+};
+
+template <class V>
+RNX_INLINE Precise<V> operator+(Precise<V> a, Precise<V> b) {
+  return {a.raw + b.raw};
+}
+template <class V>
+RNX_INLINE Precise<V> operator-(Precise<V> a, Precise<V> b) {
+  return {a.raw - b.raw};
+}
+template <class V>
+RNX_INLINE Precise<V> operator*(Precise<V> a, Precise<V> b) {
+  return {a.raw * b.raw};
+}
+
+// The numbers that lanes are multiplied by.
+template <class V>
+struct FactorOf {
+  using Real = f32;
+  using Number = fc32;
+};
+template <class V>
+struct FactorOf<Precise<V>> {
+  using Real = f64;
+  using Number = fc64;
+};
+template <class V>
+using Factor = typename FactorOf<V>::Number;
+
+template <class V>
+RNX_INLINE V splatConstant(f64 v) {
+  return V::splat(static_cast<typename FactorOf<V>::Real>(v));
+}
 
 template <class V>
 RNX_INLINE V negate(V v) {
@@ -74,29 +133,11 @@ RNX_INLINE void storeElement(f32* p, Complex<V> x) {
 }
 // One factor for all lanes, from a table of complex numbers.
 template <class V>
-RNX_INLINE Complex<V> splatFactor(const fc32* p) {
+RNX_INLINE Complex<V> splatFactor(const Factor<V>* p) {
   return {V::splat(p->re), V::splat(p->im)};
 }
 
-// ---- Single in the shapes of simd/transpose.h ----
-
-template <class V>
-inline constexpr int kGroup = V::kLanes < 4 ? 1 : 4;  // columns that are transposed at a time
-
-template <class Row>
-RNX_INLINE void loadColumns(Row row, Single (&column)[1]) {
-  column[0] = Single::load(row(0));
-}
-template <class Row>
-RNX_INLINE void storeColumns(Row row, Single (&column)[1]) {
-  column[0].store(row(0));
-}
-
-template <class V>
-RNX_INLINE constexpr int pairedElement(int lane) {
-  if constexpr (V::kLanes == 1) return 0;
-  return simd::pairedElement(lane);
-}
+// ---- Complex numbers in memory, real and imaginary part side by side ----
 
 template <class V>
 RNX_INLINE Complex<V> loadPairs(const f32* p) {
@@ -119,6 +160,8 @@ RNX_INLINE void storePairs(f32* p, Complex<V> x) {
     second.store(p + V::kLanes);
   }
 }
+
+RNX_INLINE Single reversed(Single v) { return v; }
 
 }  // namespace
 }  // namespace rnx::fft

@@ -50,7 +50,7 @@ public:
         V re[G], im[G], reB[G], imB[G];
         unroll<0, G>([&](auto index) RNX_LAMBDA {
           constexpr int i = decltype(index)::value;
-          const s64 k = start + pairedElement<V>(group.value * G + i);
+          const s64 k = start + simd::pairedElement(group.value * G + i);
           const Complex<V> z = outputs[k];
           if (k == 0) {
             const V factor = V::splat(scale);
@@ -85,16 +85,23 @@ public:
 
   // ---- Inverse ----
 
+  // Neighbouring strips share lines of the cache, which a tall image would evict from one strip to the next: a few are
+  // loaded together.
   void inverseColumns(f32 scale) const {
+    constexpr s64 kTogether = 4;
     const V factor = V::splat(scale);
     const Outputs<V> outputs = this->outputsOf(columns);
-    for (s64 strip = 0; strip < this->stripCount(); ++strip) {
-      const s64 start = this->stripStart(strip);
-      for (s64 l = 0; l < height; ++l) this->storeInput(l, loadPacked(l, start));
-      if (start == 0) loadOuterColumns();
-      columns.run(tile, tile);
-      for (s64 k = 0; k < height; ++k) {
-        storeElement(this->stripRow(strip, k), outputs[k] * factor);
+    for (s64 first = 0; first < this->stripCount(); first += kTogether) {
+      const s64 end = std::min(first + kTogether, this->stripCount());
+      for (s64 l = 0; l < height; ++l) {
+        for (s64 strip = first; strip < end; ++strip) {
+          storeElement(this->stripRow(strip, l), loadPacked(l, this->stripStart(strip)));
+        }
+      }
+      if (first == 0) loadOuterColumns();
+      for (s64 strip = first; strip < end; ++strip) {
+        columns.run(this->stripRow(strip, 0), tile);
+        for (s64 k = 0; k < height; ++k) storeElement(this->stripRow(strip, k), outputs[k] * factor);
       }
     }
   }
@@ -107,7 +114,7 @@ public:
         loadGroup(strip, group.value, pairs, 1, reB, imB);
         unroll<0, G>([&](auto index) RNX_LAMBDA {
           constexpr int i = decltype(index)::value;
-          const s64 k = start + pairedElement<V>(group.value * G + i);
+          const s64 k = start + simd::pairedElement(group.value * G + i);
           if (k == 0) {
             this->storeInput(0, Complex<V>{re[i], reB[i]});
             if (imageWidth % 2 == 0) this->storeInput(imageWidth / 2, Complex<V>{im[i], imB[i]});
@@ -179,14 +186,12 @@ private:
   RNX_INLINE void storePacked(s64 row, s64 start, Complex<V> x) const {
     f32* to = core::at(call.dst, row * call.dstStep);
     if (call.channels == 1 && start > 0) return storePairs(to + 2 * start - 1, x);
-    if constexpr (L > 1) {
-      if (call.channels == 1) {
-        V first, second;
-        simd::interleave(x.re, x.im, first, second);
-        storeBehindPair(to - 1, first);
-        second.store(to - 1 + L);
-        return;
-      }
+    if (call.channels == 1) {
+      V first, second;
+      simd::interleave(x.re, x.im, first, second);
+      storeBehindPair(to - 1, first);
+      second.store(to - 1 + L);
+      return;
     }
     f32 buffer[2 * L];
     storePairs(buffer, x);
@@ -199,12 +204,10 @@ private:
     const f32* from = core::at(call.src, row * call.srcStep);
     if (call.channels == 1 && start > 0) return loadPairs<V>(from + 2 * start - 1);
     f32 buffer[2 * L];
-    if constexpr (L > 1) {
-      if (call.channels == 1) {
-        simd::loadBehindPair(from - 1).store(buffer);
-        V::load(from - 1 + L).store(buffer + L);
-        return loadPairs<V>(buffer);
-      }
+    if (call.channels == 1) {
+      simd::loadBehindPair(from - 1).store(buffer);
+      V::load(from - 1 + L).store(buffer + L);
+      return loadPairs<V>(buffer);
     }
     buffer[0] = buffer[1] = 0;
     for (s64 i = start == 0 ? 2 : 0; i < 2 * L; ++i) {
@@ -244,8 +247,9 @@ private:
     const auto right = [&](s64 row)
                            RNX_LAMBDA { return hasRight ? simd::loadOne(outer(src, call.srcStep, row, true)) : 0.0f; };
     const auto put = [&](s64 l, f32 re, f32 im) RNX_LAMBDA {
-      tile[l * kElement<V>] = re;
-      tile[l * kElement<V> + L] = im;
+      f32* to = this->stripRow(0, l);
+      to[0] = re;
+      to[L] = im;
     };
     put(0, left(0), right(0));
     for (s64 l = 1; 2 * l < height; ++l) {

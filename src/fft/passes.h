@@ -23,13 +23,13 @@ enum class Twiddles {
 };
 
 template <class V>
-using Pass = void (*)(const f32* src, f32* dst, s64 blockSize, s64 blocks, const fc32* factors);
+using Pass = void (*)(const f32* src, f32* dst, s64 blockSize, s64 blocks, const Factor<V>* factors);
 
 template <class V, int R, Twiddles kWhere>
-RNX_INLINE void pass(const f32* src, f32* dst, s64 blockSize, s64 blocks, const fc32* factors) {
+RNX_INLINE void pass(const f32* src, f32* dst, s64 blockSize, s64 blocks, const Factor<V>* factors) {
   const s64 butterflies = blockSize / R, stride = butterflies * kElement<V>;
   for (s64 block = 0; block < blocks; ++block) {
-    const fc32* factor = factors;
+    const Factor<V>* factor = factors;
     for (s64 j = 0; j < butterflies; ++j) {
       Points<V, R> x;
       unroll<0, R>([&](auto index) RNX_LAMBDA {
@@ -56,41 +56,63 @@ RNX_INLINE void pass(const f32* src, f32* dst, s64 blockSize, s64 blocks, const 
 
 // Most passes work in place. That they say so saves half of the pointers.
 template <class V, int R, Twiddles kWhere>
-void passApart(const f32* src, f32* dst, s64 blockSize, s64 blocks, const fc32* factors) {
+void passApart(const f32* src, f32* dst, s64 blockSize, s64 blocks, const Factor<V>* factors) {
   pass<V, R, kWhere>(src, dst, blockSize, blocks, factors);
 }
 template <class V, int R, Twiddles kWhere>
-void passInPlace(const f32*, f32* tile, s64 blockSize, s64 blocks, const fc32* factors) {
+void passInPlace(const f32*, f32* tile, s64 blockSize, s64 blocks, const Factor<V>* factors) {
   pass<V, R, kWhere>(tile, tile, blockSize, blocks, factors);
+}
+
+// The last pass of a convolution there, its factors, and the first one back: single butterflies both.
+template <class V>
+using FilterPass = void (*)(f32* tile, s64 blocks, const Factor<V>* filter);
+
+template <class V, int R>
+void filterPass(f32* tile, s64 blocks, const Factor<V>* filter) {
+  for (s64 block = 0; block < blocks; ++block) {
+    Points<V, R> x;
+    unroll<0, R>([&](auto r) RNX_LAMBDA { x.set(r.value, loadElement<V>(tile + r.value * kElement<V>)); });
+    Butterfly<R>::apply(x);
+    unroll<0, R>([&](auto r) RNX_LAMBDA { x.set(r.value, x[r.value] * splatFactor<V>(filter + r.value)); });
+    Butterfly<R>::apply(x);
+    unroll<0, R>([&](auto r) RNX_LAMBDA { storeElement(tile + r.value * kElement<V>, x[r.value]); });
+    tile += R * kElement<V>;
+    filter += R;
+  }
 }
 
 // Odd primes beyond the unrolled butterflies, by the same symmetric halves (see butterfly.h). The factors begin with
 // the roots exp(-2 pi i k / prime).
-template <class V>
-void primePass(const f32* src, f32* dst, s64 blockSize, s64 blocks, const fc32* factors, int prime) {
+template <class V, Twiddles kWhere>
+void primePass(const f32* src, f32* dst, s64 blockSize, s64 blocks, const Factor<V>* factors, int prime) {
   const s64 butterflies = blockSize / prime, stride = butterflies * kElement<V>;
   const int half = prime / 2;
-  const fc32* roots = factors;
+  const Factor<V>* roots = factors;
   for (s64 block = 0; block < blocks; ++block, src += blockSize * kElement<V>, dst += blockSize * kElement<V>) {
     for (s64 j = 0; j < butterflies; ++j) {
       const f32* from = src + j * kElement<V>;
       f32* to = dst + j * kElement<V>;
-      const fc32* twiddles = factors + prime + j * (prime - 1);
-      const auto store = [&](int k, Complex<V> x) RNX_LAMBDA {
-        storeElement(to + k * stride, butterflies > 1 && k > 0 ? x * splatFactor<V>(twiddles + (k - 1)) : x);
+      const Factor<V>* twiddles = factors + prime + j * (prime - 1);
+      const auto turned = [&](int k, Complex<V> x, bool here)
+                              RNX_LAMBDA { return here && k > 0 ? x * splatFactor<V>(twiddles + (k - 1)) : x; };
+      const auto load = [&](int k) RNX_LAMBDA {
+        return turned(k, loadElement<V>(from + k * stride), kWhere == Twiddles::kBefore);
       };
+      const auto store = [&](int k, Complex<V> x)
+                             RNX_LAMBDA { storeElement(to + k * stride, turned(k, x, kWhere == Twiddles::kAfter)); };
       Complex<V> sum[kLargestRadix / 2 + 1], difference[kLargestRadix / 2 + 1];
-      const Complex<V> first = loadElement<V>(from);
+      const Complex<V> first = load(0);
       Complex<V> total = first;
       for (int k = 1; k <= half; ++k) {
-        const Complex<V> a = loadElement<V>(from + k * stride), b = loadElement<V>(from + (prime - k) * stride);
+        const Complex<V> a = load(k), b = load(prime - k);
         sum[k] = a + b;
         difference[k] = a - b;
         total = total + sum[k];
       }
       store(0, total);
       for (int k = 1; k <= half; ++k) {
-        Complex<V> r = first, i = {V::splat(0.0f), V::splat(0.0f)};  // i: of exp(-...), so minus the sines
+        Complex<V> r = first, i = {V::splat(0), V::splat(0)};  // i: of exp(-...), so minus the sines
         for (int m = 1, turn = k; m <= half; ++m) {
           const Complex<V> w = splatFactor<V>(roots + turn);
           r = r + sum[m] * w.re;
@@ -104,27 +126,160 @@ void primePass(const f32* src, f32* dst, s64 blockSize, s64 blocks, const fc32* 
   }
 }
 
+// Transforms begin apart from the tile; convolutions work in it and come back.
 template <class V>
 struct PassesOf {
-  Pass<V> lastApart, inFrequencyApart, last, inFrequency, inTime;
+  Pass<V> last, inFrequency, lastApart, inFrequencyApart;
+};
+template <class V>
+struct PassesOf<Precise<V>> {
+  Pass<Precise<V>> inFrequency, inTime;
+  FilterPass<Precise<V>> filter;
 };
 
 template <class V, int R>
-inline constexpr PassesOf<V> kPassesOf = {passApart<V, R, Twiddles::kNone>, passApart<V, R, Twiddles::kAfter>,
-                                          passInPlace<V, R, Twiddles::kNone>, passInPlace<V, R, Twiddles::kAfter>,
-                                          passInPlace<V, R, Twiddles::kBefore>};
+inline constexpr PassesOf<V> kPassesOf = {passInPlace<V, R, Twiddles::kNone>, passInPlace<V, R, Twiddles::kAfter>,
+                                          passApart<V, R, Twiddles::kNone>, passApart<V, R, Twiddles::kAfter>};
+template <class V, int R>
+inline constexpr PassesOf<Precise<V>> kPassesOf<Precise<V>, R> = {passInPlace<Precise<V>, R, Twiddles::kAfter>,
+                                                                  passInPlace<Precise<V>, R, Twiddles::kBefore>,
+                                                                  filterPass<Precise<V>, R>};
 
 // By radix.
 template <class V>
-inline constexpr PassesOf<V> kPasses[kLargestButterfly + 1] = {{},
-                                                               {},
-                                                               kPassesOf<V, 2>,
-                                                               kPassesOf<V, 3>,
-                                                               kPassesOf<V, 4>,
-                                                               kPassesOf<V, 5>,
-                                                               kPassesOf<V, 6>,
-                                                               kPassesOf<V, 7>,
-                                                               kPassesOf<V, 8>};
+inline constexpr PassesOf<V> kPassesByRadix[kLargestButterfly + 1] = {{},
+                                                                      {},
+                                                                      kPassesOf<V, 2>,
+                                                                      kPassesOf<V, 3>,
+                                                                      kPassesOf<V, 4>,
+                                                                      kPassesOf<V, 5>,
+                                                                      kPassesOf<V, 6>,
+                                                                      kPassesOf<V, 7>,
+                                                                      kPassesOf<V, 8>};
+
+// All passes of a plan, from natural order to that of the positions. src is the tile itself or apart from it.
+template <class V>
+class Passes {
+public:
+  Passes(const Spec& spec, const Plan& plan) : spec_(spec), plan_(plan) {}
+
+  void run(const f32* src, f32* tile) const { run(0, src, tile, plan_.size, 1); }
+
+private:
+  static constexpr s64 kElementBytes = kElement<V> * s64{sizeof(f32)};
+
+  // The passes from `level` for `blocks` blocks of blockSize elements.
+  void run(int level, const f32* src, f32* tile, s64 blockSize, s64 blocks) const {
+    for (; level < plan_.passCount; ++level) {
+      const s32 radix = plan_.radix[level];
+      const bool last = level + 1 == plan_.passCount;
+      const Factor<V>* factors = spec_.table<Factor<V>>(plan_.twiddles[level]);
+      if (radix > kLargestButterfly) {
+        const auto pass = last ? primePass<V, Twiddles::kNone> : primePass<V, Twiddles::kAfter>;
+        pass(src, tile, blockSize, blocks, factors, radix);
+      } else {
+        const PassesOf<V>& passes = kPassesByRadix<V>[radix];
+        const Pass<V> apart = last ? passes.lastApart : passes.inFrequencyApart;
+        const Pass<V> inPlace = last ? passes.last : passes.inFrequency;
+        (src == tile ? inPlace : apart)(src, tile, blockSize, blocks, factors);
+      }
+      const bool splits = blockSize * kElementBytes > kCachedBytes && blocks == 1 && !last;
+      blockSize /= radix;
+      blocks *= radix;
+      src = tile;
+      if (splits) {
+        for (s64 b = 0; b < blocks; ++b) {
+          f32* part = tile + b * blockSize * kElement<V>;
+          run(level + 1, part, part, blockSize, 1);
+        }
+        return;
+      }
+    }
+  }
+
+  const Spec& spec_;
+  const Plan& plan_;
+};
+
+// The passes of a plan, the product with a filter in the order where they end, and the transposed passes in opposite
+// order, which end in natural order: the transform of the product. On both ways a part that fits the first cache stays
+// there.
+template <class V>
+class Convolution {
+public:
+  using P = Precise<V>;
+
+  Convolution(const Spec& spec, const Plan& plan) : spec_(spec), plan_(plan) {}
+
+  void run(f32* tile, const fc64* filter) const { run(0, tile, plan_.size, 1, filter, nullptr); }
+  // Adds the number at `first` to each result, and to it the sum of the tile.
+  void runAndAdd(f32* tile, const fc64* filter, f32* first) const { run(0, tile, plan_.size, 1, filter, first); }
+
+private:
+  static constexpr s64 kElementBytes = kElement<V> * s64{sizeof(f32)};
+
+  // From `level` on. `first`: of the first of all blocks only.
+  void run(int level, f32* tile, s64 blockSize, s64 blocks, const fc64* filter, f32* first) const {
+    const s32 radix = plan_.radix[level];
+    if (level + 1 == plan_.passCount) {
+      if (first != nullptr) {
+        runFirst(radix, tile, filter, first);
+        tile += radix * kElement<V>;
+        filter += radix;
+        --blocks;
+      }
+      return filterBlocks(radix, tile, blocks, filter);
+    }
+    const fc64* factors = spec_.table<fc64>(plan_.twiddles[level]);
+    const bool isPrime = radix > kLargestButterfly;
+    if (isPrime) {
+      primePass<P, Twiddles::kAfter>(tile, tile, blockSize, blocks, factors, radix);
+    } else {
+      kPassesByRadix<P>[radix].inFrequency(tile, tile, blockSize, blocks, factors);
+    }
+    const s64 part = blockSize / radix, parts = blocks * radix;
+    if (blockSize * kElementBytes > kCachedBytes) {
+      for (s64 i = 0; i < parts; ++i) {
+        run(level + 1, tile + i * part * kElement<V>, part, 1, filter + i * part, i == 0 ? first : nullptr);
+      }
+    } else {
+      run(level + 1, tile, part, parts, filter, first);
+    }
+    if (isPrime) {
+      primePass<P, Twiddles::kBefore>(tile, tile, blockSize, blocks, factors, radix);
+    } else {
+      kPassesByRadix<P>[radix].inTime(tile, tile, blockSize, blocks, factors);
+    }
+  }
+
+  void filterBlocks(s32 radix, f32* tile, s64 blocks, const fc64* filter) const {
+    if (radix <= kLargestButterfly) return kPassesByRadix<P>[radix].filter(tile, blocks, filter);
+    const fc64* roots = spec_.table<fc64>(plan_.twiddles[plan_.passCount - 1]);
+    const s64 size = blocks * radix;
+    primePass<P, Twiddles::kNone>(tile, tile, radix, blocks, roots, radix);
+    for (s64 k = 0; k < size; ++k) {
+      f32* p = tile + k * kElement<V>;
+      storeElement(p, loadElement<P>(p) * splatFactor<P>(filter + k));
+    }
+    primePass<P, Twiddles::kNone>(tile, tile, radix, blocks, roots, radix);
+  }
+
+  // The first block of the last pass: its elements add up to the sum of the tile. What is added to each of its results
+  // reaches, by the passes back, each result of all.
+  void runFirst(s32 radix, f32* tile, const fc64* filter, f32* first) const {
+    Complex<P> sum = loadElement<P>(tile);
+    for (s32 r = 1; r < radix; ++r) sum = sum + loadElement<P>(tile + r * kElement<V>);
+    const Complex<P> x = loadElement<P>(first);
+    filterBlocks(radix, tile, 1, filter);
+    for (s32 r = 0; r < radix; ++r) {
+      storeElement(tile + r * kElement<V>, loadElement<P>(tile + r * kElement<V>) + x);
+    }
+    storeElement(first, x + sum);
+  }
+
+  const Spec& spec_;
+  const Plan& plan_;
+};
 
 enum class Direction { kForward, kInverse };
 
@@ -147,16 +302,17 @@ public:
       : spec_(spec), plan_(plan), positions_(spec.table<s32>(plan.positions)) {}
 
   // Transforms a sequence of plan.length elements. src is the tile itself or apart from it. The tile has room for what
-  // tileElements() in plan.cpp says.
+  // tileBytes() in shape.cpp says.
   void run(const f32* src, f32* tile) const {
     if (plan_.method == Method::kRotation) {
-      rotate(src, tile);
+      permute(src, tile);
+      forEachPart([&](s64 part) RNX_LAMBDA { rotate(tile + part); });
     } else if (plan_.method == Method::kChirp) {
-      convolve(src, tile);
+      forEachPart([&](s64 part) RNX_LAMBDA { convolve(src + part, tile + part); });
     } else if (plan_.passCount == 0) {
       storeElement(tile, loadElement<V>(src));
     } else {
-      inFrequency(0, src, tile, plan_.size, 1);
+      Passes<V>(spec_, plan_).run(src, tile);
     }
   }
 
@@ -167,100 +323,52 @@ public:
   }
 
 private:
-  static constexpr s64 kElementBytes = kElement<V> * s64{sizeof(f32)};
+  using P = Precise<V>;
 
-  // The passes from `level` for `blocks` blocks of blockSize elements.
-  void inFrequency(int level, const f32* src, f32* tile, s64 blockSize, s64 blocks) const {
-    for (; level < plan_.passCount; ++level) {
-      const s32 radix = plan_.radix[level];
-      const bool last = level + 1 == plan_.passCount;
-      const fc32* factors = spec_.table<fc32>(plan_.twiddles[level]);
-      if (radix > kLargestButterfly) {
-        primePass<V>(src, tile, blockSize, blocks, factors, radix);
-      } else {
-        const auto& passes = kPasses<V>[radix];
-        const Pass<V> apart = last ? passes.lastApart : passes.inFrequencyApart;
-        const Pass<V> inPlace = last ? passes.last : passes.inFrequency;
-        (src == tile ? inPlace : apart)(src, tile, blockSize, blocks, factors);
-      }
-      const bool splits = blockSize * kElementBytes > kCachedBytes && blocks == 1 && !last;
-      blockSize /= radix;
-      blocks *= radix;
-      src = tile;
-      if (splits) {
-        for (s64 b = 0; b < blocks; ++b) {
-          f32* part = tile + b * blockSize * kElement<V>;
-          inFrequency(level + 1, part, part, blockSize, 1);
-        }
-        return;
-      }
-    }
+  template <class F>
+  RNX_INLINE void forEachPart(F f) const {
+    for (s64 part = 0; part < V::kLanes; part += P::kAtOnce) f(part);
   }
 
-  // The transposed passes in opposite order: from the order of the positions to the natural one.
-  void inTime(int level, f32* tile, s64 blockSize) const {
-    const int last = plan_.passCount - 1;
-    if (level < last && blockSize * kElementBytes > kCachedBytes) {
-      const s64 part = blockSize / plan_.radix[level];
-      for (s64 r = 0; r < plan_.radix[level]; ++r) inTime(level + 1, tile + r * part * kElement<V>, part);
-      passInTime(level, tile, blockSize, 1);
+  // Place r + 1 of the tile receives input g^r. In place, each cycle of the permutation is followed once around.
+  void permute(const f32* src, f32* tile) const {
+    const s32* sources = spec_.table<s32>(plan_.powers) - 1;
+    const auto move = [=](s64 to, const f32* image, s64 from) RNX_LAMBDA {
+      storeElement(tile + to * kElement<V>, loadElement<V>(image + from * kElement<V>));
+    };
+    if (src != tile) {
+      move(0, src, 0);
+      for (s64 place = 1; place < plan_.length; ++place) move(place, src, sources[place]);
       return;
     }
-    s64 size = 1;
-    for (int l = last; l >= level; --l) {
-      size *= plan_.radix[l];
-      passInTime(l, tile, size, blockSize / size);
+    for (const s32* cycle = spec_.table<s32>(plan_.cycles); *cycle > 0; ++cycle) {
+      const Complex<V> first = loadElement<V>(tile + *cycle * kElement<V>);
+      s64 place = *cycle;
+      for (; sources[place] != *cycle; place = sources[place]) move(place, tile, sources[place]);
+      storeElement(tile + place * kElement<V>, first);
     }
   }
 
-  void passInTime(int level, f32* tile, s64 blockSize, s64 blocks) const {
-    const auto& passes = kPasses<V>[plan_.radix[level]];
-    const bool last = level + 1 == plan_.passCount;
-    (last ? passes.last : passes.inTime)(tile, tile, blockSize, blocks, spec_.table<fc32>(plan_.twiddles[level]));
+  // The inputs behind the first, in the order of the powers, become the outputs in that order.
+  void rotate(f32* tile) const {
+    Convolution<V>(spec_, plan_).runAndAdd(tile + kElement<V>, spec_.table<fc64>(plan_.filter), tile);
   }
 
-  // The correlation with the rotated roots. Its input and first spectrum lie behind the tile's first plan.length
-  // elements, where output 0 remains; the other outputs are those of the second transform.
-  void rotate(const f32* src, f32* tile) const {
-    const s64 n = plan_.size;
-    f32* const apart = tile + plan_.length * kElement<V>;
-    const s32* powers = spec_.table<s32>(plan_.powers);
-    const s32* order = spec_.table<s32>(plan_.order);
-    const Complex<V> first = loadElement<V>(src);
-    for (s64 r = 0; r < n; ++r) storeElement(apart + r * kElement<V>, loadElement<V>(src + powers[r] * kElement<V>));
-    inFrequency(0, apart, apart, n, 1);
-    for (s64 k = 0; k < n; ++k) {
-      storeElement(tile + k * kElement<V>, loadElement<V>(apart + order[k] * kElement<V>) * factor(plan_.filter, k));
-    }
-    storeElement(apart, loadElement<V>(apart) + first);  // the sum of all inputs
-    storeElement(tile, loadElement<V>(tile) + first);    // adds the first input to each of the others
-    inFrequency(0, tile, tile, n, 1);
-  }
-
-  // The convolution with the chirp. Between the two transforms real and imaginary parts change places, which turns the
-  // second one into an inverse.
+  // The second transform is a forward one too, where the convolution wants an inverse: it turns the order round, but
+  // for element 0.
   void convolve(const f32* src, f32* tile) const {
-    for (s64 j = 0; j < plan_.length; ++j) {
-      storeElement(tile + j * kElement<V>, loadElement<V>(src + j * kElement<V>) * factor(plan_.chirp, j));
+    const s64 length = plan_.length, size = plan_.size;
+    const fc64* chirp = spec_.table<fc64>(plan_.chirp);
+    for (s64 j = 0; j < length; ++j) {
+      storeElement(tile + j * kElement<V>, loadElement<P>(src + j * kElement<V>) * splatFactor<P>(chirp + j));
     }
-    for (f32* p = tile + plan_.length * kElement<V>; p < tile + plan_.size * kElement<V>; p += V::kLanes) {
-      V::splat(0.0f).store(p);
-    }
-    inFrequency(0, tile, tile, plan_.size, 1);
-    for (s64 k = 0; k < plan_.size; ++k) {
-      f32* p = tile + k * kElement<V>;
-      const Complex<V> x = loadElement<V>(p) * factor(plan_.filter, k);
-      storeElement(p, Complex<V>{x.im, x.re});
-    }
-    inTime(0, tile, plan_.size);
-    for (s64 k = 0; k < plan_.length; ++k) {
-      f32* p = tile + k * kElement<V>;
-      const Complex<V> x = loadElement<V>(p);
-      storeElement(p, Complex<V>{x.im, x.re} * factor(plan_.chirp, k));
+    for (s64 j = length; j < size; ++j) storeElement(tile + j * kElement<V>, Complex<P>{P::splat(0), P::splat(0)});
+    Convolution<V>(spec_, plan_).run(tile, spec_.table<fc64>(plan_.filter));
+    for (s64 k = 0; k < length; ++k) {
+      f32* p = tile + positions_[k] * kElement<V>;
+      storeElement(p, loadElement<P>(p) * splatFactor<P>(chirp + k));
     }
   }
-
-  RNX_INLINE Complex<V> factor(u32 table, s64 k) const { return splatFactor<V>(spec_.table<fc32>(table) + k); }
 
   const Spec& spec_;
   const Plan& plan_;

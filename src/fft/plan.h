@@ -1,6 +1,7 @@
 // Planning: sizes and contents of transform specs.
 #pragma once
 
+#include "core/spec.h"
 #include "fft/spec.h"
 
 namespace rnx::fft {
@@ -16,6 +17,11 @@ struct Request {
 struct Sizes {
   s64 spec, init, work;  // bytes without the alignment
 };
+
+// A size as reported: with room for alignment.
+inline s64 reported(s64 bytes) {
+  return bytes == 0 ? 0 : core::roundUp(bytes, core::kSpecAlignment) + core::kSpecAlignment;
+}
 
 // The sizes of a spec for a request whose arguments are valid. Does not depend on the vector width.
 Sizes measureSpec(const Request& request);

@@ -33,11 +33,6 @@ Request requestFor(int orderX, int orderY, int flag, int hint) {
   return requestFor<kTag>({1 << orderX, 1 << orderY}, orderX, orderY, flag, hint);
 }
 
-// A size as reported: with room for alignment.
-inline s64 reported(s64 bytes) {
-  return bytes == 0 ? 0 : core::roundUp(bytes, core::kSpecAlignment) + core::kSpecAlignment;
-}
-
 inline bool fits(const Sizes& sizes) {
   return reported(sizes.spec) <= core::kMaxReportedSize && reported(sizes.init) <= core::kMaxReportedSize &&
          reported(sizes.work) <= core::kMaxReportedSize;

@@ -1,7 +1,9 @@
 // The kernels of the two-dimensional transforms: rows, then columns (the inverse of a packed spectrum the other way
-// round). Nothing of the destination is written before the whole source is read.
+// round). Source and destination are the same image or apart: narrow images and real lines stand in the destination
+// between their passes.
 #include "fft/packed.h"
 #include "fft/packed_line.h"
+#include "fft/series.h"
 
 namespace rnx::fft {
 namespace {
@@ -24,76 +26,61 @@ void complexLine(const TransformCall& call, const Line& from, const Line& to, f3
   if (call.spec->shape == Shape::kLine) {
     Grid<Vector>(call).splitLine(from, to, scale);
   } else {
-    Grid<Single>(call).shortLine(from, to, scale);
+    Series(call, call.spec->plans[0]).complexToComplex(from, to, scale);
   }
 }
 
-template <class V>
-void complexGrid(const TransformCall& call) {
-  const Grid<V> grid(call);
-  const Scale scale = scaleOf(call);
-  grid.complexRows(scale.x);
-  f32* const dst = call.dst;
-  const s64 step = call.dstStep;
-  const auto store = [=](s64 k, s64 start, Complex<V> x)
-                         RNX_LAMBDA { storePairs(core::at(dst, k * step, 2 * start), x); };
-  grid.storeColumnsOf(scale.y, store);
-}
-
 void complexToComplex(const TransformCall& call) {
-  const Shape shape = call.spec->shape;
-  if (shape == Shape::kGrid) return complexGrid<Vector>(call);
-  if (shape == Shape::kNarrow) return complexGrid<Single>(call);
-  const auto line = [&](const f32* image, s64 step) RNX_LAMBDA {
-    return Line{const_cast<f32*>(image), liesAlongRow(call) ? s64{sizeof(fc32)} : step, sizeof(f32)};
-  };
   const Scale scale = scaleOf(call);
-  complexLine(call, line(call.src, call.srcStep), line(call.dst, call.dstStep), scale.x * scale.y);
+  if (call.spec->shape == Shape::kGrid) {
+    const Grid<Vector> grid(call);
+    grid.complexRows(scale.x);
+    f32* const dst = call.dst;
+    const s64 step = call.dstStep;
+    const auto store = [=](s64 k, s64 start, Complex<Vector> x)
+                           RNX_LAMBDA { storePairs(core::at(dst, k * step, 2 * start), x); };
+    return grid.storeColumnsOf(scale.y, store);
+  }
+  if (call.spec->shape == Shape::kNarrow) return narrowComplex(call, scale.x, scale.y);
+  const auto line = [&](const PlaneView& plane)
+                        RNX_LAMBDA { return liesAlongRow(call) ? plane.complexRow(0) : plane.complexColumn(0); };
+  complexLine(call, line(PlaneView::source(call)), line(PlaneView::destination(call)), scale.x * scale.y);
 }
 
-RealLine realLine(const TransformCall& call, const f32* image, s64 step) {
-  const s64 pixel = call.channels * s64{sizeof(f32)}, length = std::max(call.spec->width, call.spec->height);
-  return {const_cast<f32*>(image), liesAlongRow(call) ? pixel : step, length};
-}
-
-template <class V>
-void forwardGrid(const TransformCall& call) {
-  const PackedGrid<V> grid(call);
-  const Scale scale = scaleOf(call);
-  grid.forwardRows(scale.x);
-  grid.forwardColumns(scale.y);
+RealLine realLine(const TransformCall& call, const PlaneView& plane) {
+  return {plane.first, liesAlongRow(call) ? plane.pixel() : plane.step};
 }
 
 void realToPack(const TransformCall& call) {
-  const Shape shape = call.spec->shape;
-  if (shape == Shape::kGrid) return forwardGrid<Vector>(call);
-  if (shape == Shape::kNarrow) return forwardGrid<Single>(call);
-  const RealLine src = realLine(call, call.src, call.srcStep), dst = realLine(call, call.dst, call.dstStep);
   const Scale scale = scaleOf(call);
-  const Grid<Single> grid(call);
-  if (src.length % 2 != 0) return oddForward(grid, src, dst, scale.x * scale.y);
-  complexLine(call, src.pairs(), Line{grid.line, sizeof(fc32), sizeof(f32)}, 1.0f);
-  unpackHalves(call, grid.line, dst, scale.x * scale.y);
-}
-
-template <class V>
-void inverseGrid(const TransformCall& call) {
-  const PackedGrid<V> grid(call);
-  const Scale scale = scaleOf(call);
-  grid.inverseColumns(scale.y);
-  grid.inverseRows(scale.x);
+  const Spec& spec = *call.spec;
+  if (spec.shape == Shape::kGrid) {
+    const PackedGrid<Vector> grid(call);
+    grid.forwardRows(scale.x);
+    return grid.forwardColumns(scale.y);
+  }
+  if (spec.shape == Shape::kNarrow) return narrowReal(call, scale.x, scale.y);
+  const RealLine src = realLine(call, PlaneView::source(call)), dst = realLine(call, PlaneView::destination(call));
+  const f32 both = scale.x * scale.y;
+  if (!spec.isHalved()) return Series(call, spec.plans[0]).loneToPack(src, dst, both);
+  complexLine(call, src.pairs(), dst.pairs(), 1.0f);
+  Halves(call).unpack(dst, both);
 }
 
 void packToReal(const TransformCall& call) {
-  const Shape shape = call.spec->shape;
-  if (shape == Shape::kGrid) return inverseGrid<Vector>(call);
-  if (shape == Shape::kNarrow) return inverseGrid<Single>(call);
-  const RealLine src = realLine(call, call.src, call.srcStep), dst = realLine(call, call.dst, call.dstStep);
   const Scale scale = scaleOf(call);
-  const Grid<Single> grid(call);
-  if (src.length % 2 != 0) return oddInverse(grid, src, dst, scale.x * scale.y);
-  packHalves(call, src, grid.line);
-  complexLine(call, Line{grid.line, sizeof(fc32), sizeof(f32)}, dst.pairs(), scale.x * scale.y);
+  const Spec& spec = *call.spec;
+  if (spec.shape == Shape::kGrid) {
+    const PackedGrid<Vector> grid(call);
+    grid.inverseColumns(scale.y);
+    return grid.inverseRows(scale.x);
+  }
+  if (spec.shape == Shape::kNarrow) return narrowReal(call, scale.x, scale.y);
+  const RealLine src = realLine(call, PlaneView::source(call)), dst = realLine(call, PlaneView::destination(call));
+  const f32 both = scale.x * scale.y;
+  if (!spec.isHalved()) return Series(call, spec.plans[0]).loneToReal(src, dst, both);
+  Halves(call).pack(src, dst);
+  complexLine(call, dst.pairs(), dst.pairs(), both);
 }
 
 }  // namespace

@@ -43,6 +43,14 @@ RNX_INLINE void storeHalf(T* p, Vec<T> v) {
 #endif
 }
 
+RNX_INLINE void storeAsSingle(f32* p, Vec<f64> v) {
+#if RNX_VECTOR_BYTES == 32
+  _mm_storeu_ps(p, _mm256_cvtpd_ps(v.raw));
+#else
+  _mm_storel_pi(reinterpret_cast<__m64*>(p), _mm_cvtpd_ps(v.raw));
+#endif
+}
+
 // To single precision and back.
 RNX_INLINE Vec<f64> roundToSingle(Vec<f64> v) { return {RNX_MM(cvtps_pd)(RNX_MM(cvtpd_ps)(v.raw))}; }
 

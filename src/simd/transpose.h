@@ -68,6 +68,14 @@ RNX_INLINE void interleave(Vec<f32> re, Vec<f32> im, Vec<f32>& first, Vec<f32>& 
   second.raw = RNX_MM(unpackhi_ps)(re.raw, im.raw);
 }
 
+// Of a vector loaded by loadPairs() from p ... this is the one with the elements in opposite order.
+RNX_INLINE Vec<f32> reversed(Vec<f32> v) {
+#if RNX_VECTOR_BYTES == 32
+  v.raw = _mm256_permute2f128_ps(v.raw, v.raw, 1);
+#endif
+  return {RNX_MM(shuffle_ps)(v.raw, v.raw, 0x1b)};
+}
+
 // All elements but the first two; those read as 0, and p points at the first of them all the same.
 RNX_INLINE Vec<f32> loadBehindPair(const f32* p) {
   const __m128 low = _mm_loadh_pi(_mm_setzero_ps(), reinterpret_cast<const __m64*>(p + 2));
