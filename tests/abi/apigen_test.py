@@ -42,6 +42,7 @@ title = "Things"
 name = "Thing"
 brief = "Does it."
 checks = "null"
+example = "rnxiThing_8u_C1R(src, srcStep, 1, dst, dstStep, roi);"
 [[family.grid]]
 types = "8u 16s32f"
 layouts = "C1 C3"
@@ -150,6 +151,9 @@ class Mistakes(Generator):
         self.expect("thing.toml", "Thing", "impl", family=self.family(', impl = "thing<{T}, {D}, {L}>"', ""))
         self.expect("thing.toml", "title", family=self.family('title = "Things"', ""))
         self.expect("thing.toml", "Thing", "brief", family=self.family('brief = "Does it."', ""))
+
+    def test_no_example(self):
+        self.expect("thing.toml", "Thing", "example", family=self.family("example = ", "brief2 = "))
 
     def test_unknown_shape(self):
         circle = self.family("[[family.grid]]", 'shapes = "circle"\n[[family.grid]]')
