@@ -83,7 +83,8 @@ struct Mul {
 
   template <class T, RightOperand R>
   static Choice<T> choose(const IntegerKernels<T>& k, int scaleFactor) {
-    if (scaleFactor <= 0) return {&k.mulLeft, leftShift<T>(scaleFactor)};
+    if (scaleFactor == 0) return {&k.mul, 0};
+    if (scaleFactor < 0) return {&k.mulLeft, leftShift<T>(scaleFactor)};
     return {scaleFactor <= kLargestFactor<T, R> ? &k.mulRight : nullptr, scaleFactor};
   }
   static const BinaryForms<f32>& choose(const FloatKernels& k) { return k.mul; }

@@ -36,7 +36,7 @@ template <class T>
 struct IntegerKernels {
   BinaryForms<T> add, addHalf, addRight, addLeft;
   BinaryForms<T> sub, subHalf, subRight, subLeft;
-  BinaryForms<T> mulRight, mulLeft;
+  BinaryForms<T> mul, mulRight, mulLeft;
   BinaryForms<T> divZero, divEven, divAway;  // by rounding mode
   BinaryForms<T> divZeroLeft, divEvenLeft, divAwayLeft;
 };

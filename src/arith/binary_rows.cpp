@@ -139,6 +139,22 @@ struct SubSaturated : NoDivision<T> {
   RNX_INLINE Vec<T> operator()(Vec<T> a, Vec<T> b) const { return subSaturated(a, b); }
 };
 
+template <class T>
+struct MulSaturated : NoDivision<T> {
+  using NoDivision<T>::NoDivision;
+  RNX_INLINE Vec<T> operator()(Vec<T> a, Vec<T> b) const {
+    if constexpr (std::is_same_v<T, u16>) {  // all ones where the upper half of the product is not 0
+      return a * b | ~equal(multiplyHigh(a, b), Vec<u16>::zero()).template as<u16>();
+    } else if constexpr (std::is_same_v<T, u8>) {
+      const Pair<u16> product = Mul::exact(a, b);
+      const Vec<u16> most = Vec<u16>::splat(255);
+      return narrow<u8>(Pair<u16>{min(product.lo, most), min(product.hi, most)});
+    } else {
+      return narrow<T>(Mul::exact(a, b));
+    }
+  }
+};
+
 // Half the sum, half to even: the average rounds up, which is wrong where the sum is odd and the average too.
 template <class T>
 struct AddHalf : NoDivision<T> {
@@ -462,6 +478,7 @@ constexpr IntegerKernels<T> kIntegerKernels = {
     .subHalf = kForms<T, ScaledRight<T, Sub>>,
     .subRight = kForms<T, ScaledRight<T, Sub>>,
     .subLeft = kForms<T, ScaledLeft<T, Sub>>,
+    .mul = kForms<T, MulSaturated<T>>,
     .mulRight = kForms<T, ScaledRight<T, Mul>>,
     .mulLeft = kForms<T, ScaledLeft<T, Mul>>,
     .divZero = kDivide<T, RoundZero, false>,

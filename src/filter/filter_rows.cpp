@@ -176,7 +176,7 @@ RNX_INLINE void filterConverted(const FilterCall<T>& call, SumTwoRows<Unit, T> s
 // Rows of the image's own type are read where they lie. Results near the ends of a row, as far as a produced border
 // reaches, and at least a block, are computed from copies of the ends.
 template <class T>
-RNX_INLINE void filterInPlace(const FilterCall<T>& call, SumTwoRows<T, T> sum) {
+RNX_INLINE void filterDirect(const FilterCall<T>& call, SumTwoRows<T, T> sum) {
   constexpr s64 kBlock = SumBlock<T>::kElements;
   const BorderedImage<T> image = imageOf(call);
   const s64 last = lastRow(call), count = call.spec->height + 1;
@@ -215,9 +215,9 @@ RNX_INLINE void filterInPlace(const FilterCall<T>& call, SumTwoRows<T, T> sum) {
       });
 }
 
-// Whether there is a block between the ends of a row, and room for their copies in the place of one row.
+// Whether there is a block between the ends of a row, and room for their copies where a whole row would stand.
 template <class T>
-bool worksInPlace(const FilterCall<T>& call) {
+bool canReadDirectly(const FilterCall<T>& call) {
   constexpr s64 kBlock = SumBlock<T>::kElements;
   const s64 reach = call.spec->width * call.channels;
   return elementsOf(call) >= (call.border.columns.complete() ? kBlock : 3 * (kBlock + reach));
@@ -226,7 +226,7 @@ bool worksInPlace(const FilterCall<T>& call) {
 template <class T>
 void filterUnrounded(const FilterCall<T>& call) {
   const SumTwoRows<T, T> sum = sumRows<T, T, T, Unrounded>;
-  worksInPlace(call) ? filterInPlace(call, sum) : filterConverted<T>(call, sum);
+  canReadDirectly(call) ? filterDirect(call, sum) : filterConverted<T>(call, sum);
 }
 
 template <class T>
