@@ -232,6 +232,32 @@ private:
   ByteRight right_;
 };
 
+// (x + c) / 2^n for a constant, n from 2 to 7. With t = x + c + 2^(n-1) the result is t >> n, less 1 where t is an odd
+// multiple of 2^n, a tie that went up to an odd value. What c and the half have above 2^8 is a whole number of results:
+//   t = x + before + 1 + above * 2^n,  before a byte, so that (x + before + 1) >> 1 is an average
+class ByteConstantRight : public NoDivision<u8> {
+public:
+  static bool takes(int shift) { return shift >= 2 && shift <= 7; }
+  static u8 before(u8 c, int n) { return static_cast<u8>(c + (1 << (n - 1)) - 1); }
+  static u8 above(u8 c, int n) { return static_cast<u8>((c + (1 << (n - 1)) - 1) >> 8 << (8 - n)); }
+
+  explicit ByteConstantRight(const BinaryCall<u8>& call)
+      : NoDivision(call),
+        rest_(shiftCount(call.shift - 1)),
+        kept_(Vec<u8>::splat(static_cast<u8>(0xFF >> (call.shift - 1)))),
+        below_(Vec<u8>::splat(static_cast<u8>((2 << call.shift) - 1))),
+        tie_(Vec<u8>::splat(static_cast<u8>((1 << call.shift) - 1))) {}
+
+  RNX_INLINE Vec<u8> operator()(Vec<u8> x, Vec<u8> before, Vec<u8> above) const {
+    const Vec<u8> up = (shiftRight(average(x, before).as<u16>(), rest_).as<u8>() & kept_) + above;
+    return up + equal((x + before) & below_, tie_).as<u8>();
+  }
+
+private:
+  ShiftCount rest_;
+  Vec<u8> kept_, below_, tie_;
+};
+
 // Differences below 0 become 0 in any case.
 class ByteDifferenceRight : public NoDivision<u8> {
 public:
@@ -463,6 +489,20 @@ constexpr BinaryForms<u8> kFormsByShift = {
     imagesByShift<Few, Any, AllChannels<u8>>, constantByShift<Few, Any, AllChannels<u8>>,
     imagesByShift<Few, Any, ColorChannels<u8>>, constantByShift<Few, Any, ColorChannels<u8>>};
 
+template <class Channels>
+bool addConstantRight(const BinaryCall<u8>& call) {
+  if (!ByteConstantRight::takes(call.shift)) return constantByShift<ByteSumRight, ScaledRight<u8, Add>, Channels>(call);
+  u8 before[4] = {}, above[4] = {};
+  for (int c = 0; c < call.period; ++c) {
+    before[c] = ByteConstantRight::before(call.right[c], call.shift);
+    above[c] = ByteConstantRight::above(call.right[c], call.shift);
+  }
+  ByteConstantRight f(call);
+  forEachElement<Channels>(call.rows, call.dst, call.dstStep, f, ImageSource<u8>{call.left, call.leftStep},
+                           PatternSource<u8>(before, call.period), PatternSource<u8>(above, call.period));
+  return false;
+}
+
 template <class T, class Rounding, bool ScaledUp>
 constexpr BinaryForms<T> kDivide =
     kForms<T, Divide<T, Rounding, ScaledUp, AllChannels<T>>, Divide<T, Rounding, ScaledUp, ColorChannels<T>>>;
@@ -497,6 +537,8 @@ bool divideByConstant(const BinaryCall<u8>& call) {
 constexpr IntegerKernels<u8> of8u() {
   IntegerKernels<u8> kernels = kIntegerKernels<u8>;
   kernels.addRight = kFormsByShift<ByteSumRight, ScaledRight<u8, Add>>;
+  kernels.addRight.constant = addConstantRight<AllChannels<u8>>;
+  kernels.addRight.constantAlpha = addConstantRight<ColorChannels<u8>>;
   kernels.subRight = kFormsByShift<ByteDifferenceRight, ScaledRight<u8, Sub>>;
   kernels.mulRight = kFormsByShift<ByteProductRight, ScaledRight<u8, Mul>>;
   kernels.divEven.constant = divideByConstant;
