@@ -150,7 +150,7 @@ struct MulSaturated : NoDivision<T> {
       const Vec<u16> most = Vec<u16>::splat(255);
       return narrow<u8>(Pair<u16>{min(product.lo, most), min(product.hi, most)});
     } else {
-      return narrow<T>(Mul::exact(a, b));
+      return narrow<T>(Mul::exact(inRegister(a), inRegister(b)));
     }
   }
 };
