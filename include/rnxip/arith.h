@@ -17,8 +17,8 @@ extern "C" {
    no influence on them and is the same after the call.
 
    32f results are those of IEEE 754 in single precision under the caller's control state, NaN and infinity included;
-   nothing is scaled or saturated. Where both operands are NaN the one of
-   the left operand comes out, made quiet: that of pSrc2, or of the image beside a constant.
+   nothing is scaled or saturated. Where both operands are NaN the left one comes out, made quiet: that of pSrc2, or of the
+   image beside a constant.
 
    AC4 works on three channels and never changes the destination's fourth element. In place the image written is the
    second operand. Images may overlap in any way: the result is then that of a loop over the rows from the top and over
