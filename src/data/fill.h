@@ -1,6 +1,8 @@
 // Filling an image with a constant.
 #pragma once
 
+#include <algorithm>
+
 #include "data/copy_kernels.h"
 
 namespace rnx::data {
@@ -9,7 +11,7 @@ namespace rnx::data {
 template <class L, class T>
 void fillPlane(const T* values, T* dst, s64 dstStep, s64 width, s64 height) {
   T all[4] = {};  // the kernels take a value for alpha too, of no effect
-  for (int i = 0; i < L::kUsed; ++i) all[i] = values[i];
+  std::copy(values, values + L::kUsed, all);
   const s64 elements = width * L::kChannels;
   const FillCall<T> call = {.rows = core::planRows(elements, height, core::operand(dst, dstStep, elements)),
                             .values = all,

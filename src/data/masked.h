@@ -1,6 +1,8 @@
 // Copy and Set of the pixels that a mask selects.
 #pragma once
 
+#include <algorithm>
+
 #include "data/masked_kernels.h"
 
 namespace rnx::data {
@@ -46,7 +48,7 @@ RnxStatus setMasked(core::Constant<T, L> value, T* dst, int dstStep, RnxiSize ro
   if (core::empty(roi)) return rnxStatusBadSize;
 
   T all[4] = {};  // the caller's array may lie in the image
-  for (int i = 0; i < L::kUsed; ++i) all[i] = values[i];
+  std::copy(values, values + L::kUsed, all);
   runMasked<L, T>(nullptr, 0, all, dst, dstStep, roi, mask, maskStep);
   return rnxStatusNoError;
 }

@@ -37,7 +37,7 @@ public:
     if (border.kind != data::Border::kConst) return;
     const s64 n = elements();
     for (s64 c = 0; c < channels; ++c) {
-      for (s64 i = c; i < n; i += channels) constantRow[i] = borderValue[c];
+      for (s64 i = c; i < n; i += channels) constantRow[i] = simd::loadOne(borderValue + c);
     }
   }
 
@@ -100,7 +100,7 @@ private:
   RNX_INLINE void copyPixel(Unit* out, s64 x, const Unit* pixels, const Unit* constant) const {
     const s64 source = sourcePosition(border_.kind, x, border_.columns.size);
     const Unit* from = source == kConstant ? constant : pixels + source * channels_;
-    for (s64 c = 0; c < channels_; ++c) out[c] = from[c];
+    for (s64 c = 0; c < channels_; ++c) out[c] = simd::loadOne(from + c);
   }
 
   Border border_;
