@@ -8,7 +8,6 @@ the names of functions. Needs python3-markdown.
 """
 
 import argparse
-import csv
 import html
 import json
 import re
@@ -16,6 +15,7 @@ import shutil
 from pathlib import Path
 
 import apigen
+import figures
 import markdown
 
 ROOT = apigen.ROOT
@@ -295,7 +295,7 @@ def bar_chart(rows):
                      f'stroke="{"#1d2733" if tick == 1 else "#d9e0e6"}"/><text x="{x - 4}" y="12">{tick}</text>')  # fmt: skip
     for i, (label, ratio) in enumerate(rows):
         y = top + i * height
-        colour = "#0b63a5" if ratio >= 0.97 else "#c2410c"
+        colour = "#0b63a5" if ratio >= figures.NOISE else "#c2410c"
         length = min(ratio, most) * scale
         lines.append(f'<text x="{left - 6}" y="{y + 13}" text-anchor="end">{escape(label)}</text>'
                      f'<rect x="{left}" y="{y + 3}" width="{length:.1f}" height="{height - 5}" fill="{colour}"/>'
@@ -307,22 +307,19 @@ def charts():
     """One chart per file, contestant and family of bench/results/*.csv."""
     parts = []
     for path in sorted((ROOT / "bench/results").glob("*.csv")):
-        table = {}
-        with path.open(newline="") as file:
-            for row in csv.DictReader(line for line in file if not line.startswith("#")):
-                table.setdefault((row["row"], row["size"]), {})[row["contestant"]] = float(row["ns"])
+        table = figures.load(path)
         notes = [line[1:].strip() for line in path.read_text().splitlines() if line.startswith("#")]
         parts.append(f"<h2>Figures: {escape(path.stem)}</h2>" + "".join(f"<p>{escape(n)}</p>" for n in notes))
         sizes = {size for _, size in table}
-        peers = sorted({c for cells in table.values() for c in cells} - {"rnx256", "floor"})
+        peers = sorted({c for cells in table.values() for c in cells} - {"rnx256", figures.FLOOR})
         for peer in peers:
             groups = {}
             for (row, size), cells in table.items():
-                if peer in cells and cells.get("rnx256"):
+                if peer in cells:
                     label = row if len(sizes) == 1 else f"{row}, {size}"
                     groups.setdefault(row.split()[0], []).append((label, cells[peer] / cells["rnx256"]))
             if groups:
-                name = "our own vectors of 16 bytes" if peer == "rnx128" else peer
+                name = "our own vectors of 16 bytes" if peer == "rnx128" else figures.PEERS.get(peer, peer)
                 parts.append(f"<h3>Time of {escape(name)} over ours</h3>"
                              "<p>Right of the line at 1 ours is faster; bars of another colour are where it is not.</p>")  # fmt: skip
             for family, rows in sorted(groups.items()):

@@ -1252,8 +1252,7 @@ RnxStatus rnxiTranspose_32fc_C1R(const Rnx32fc* pSrc, int srcStep, Rnx32fc* pDst
    caller's floating-point control state has no influence on results and is the same after the call.
 
    AC4 works on three channels and never changes the destination's fourth element. Images may overlap in any way: the
-   result is then that of a loop over the rows from the top and over the elements of a row from the left. (Where ScaleC is a
-   copy of 64f, the loop is over halves of elements; only images that do not lie whole elements apart show it.) */
+   result is then that of a loop over the rows from the top and over the elements of a row from the left. */
 
 /* rnxiScale: Maps the whole value range of one type onto that of another.
 

@@ -36,6 +36,7 @@ struct CopyKernels {
   FlatKernels<u8> of1;
   FlatKernels<u16> of2;
   FlatKernels<u32> of4;
+  FlatKernels<u64> of8;  // only copies of all channels
 };
 
 namespace v128 {
@@ -52,8 +53,10 @@ const FlatKernels<T>& copyKernels(s64 bytesMoved) {
     return k.of1;
   } else if constexpr (sizeof(T) == 2) {
     return k.of2;
-  } else {
+  } else if constexpr (sizeof(T) == 4) {
     return k.of4;
+  } else {
+    return k.of8;
   }
 }
 

@@ -60,7 +60,11 @@ constexpr FlatKernels<T> kFlatKernels = {.copy = copy<AllChannels<T>>,
 
 namespace RNX_WIDTH {
 
-constinit const CopyKernels copyKernels = {.of1 = kFlatKernels<u8>, .of2 = kFlatKernels<u16>, .of4 = kFlatKernels<u32>};
+constinit const CopyKernels copyKernels = {
+    .of1 = kFlatKernels<u8>,
+    .of2 = kFlatKernels<u16>,
+    .of4 = kFlatKernels<u32>,
+    .of8 = {.copy = copy<AllChannels<u64>, u64>, .copyColors = nullptr, .fill = nullptr, .fillColors = nullptr}};
 
 }  // namespace RNX_WIDTH
 }  // namespace rnx::data

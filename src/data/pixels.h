@@ -23,6 +23,10 @@ template <>
 struct BitsOf<4> {
   using Type = u32;
 };
+template <>
+struct BitsOf<8> {
+  using Type = u64;
+};
 template <class T>
 using Bits = typename BitsOf<sizeof(T)>::Type;
 

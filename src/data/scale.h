@@ -90,20 +90,10 @@ inline bool isIdentity(f64 mVal, f64 aVal) {
   return (factor == kOne || factor == kOne - 1) && sum < kTwoToMinus52;
 }
 
-// Bits are copied; doubles go as pairs of smaller elements.
-template <class T>
-RnxStatus copyBits(const T* src, int srcStep, T* dst, int dstStep, RnxiSize roi) {
-  if constexpr (sizeof(T) == 8) {
-    return copy<u32, core::C2>(reinterpret_cast<const u32*>(src), srcStep, reinterpret_cast<u32*>(dst), dstStep, roi);
-  } else {
-    return copy<T, core::C1>(src, srcStep, dst, dstStep, roi);
-  }
-}
-
 template <class S, class D>
 RnxStatus scaleC(const S* src, int srcStep, f64 mVal, f64 aVal, D* dst, int dstStep, RnxiSize roi, int hint) {
   if constexpr (std::is_same_v<S, D>) {
-    if (isIdentity(mVal, aVal)) return copyBits(src, srcStep, dst, dstStep, roi);
+    if (isIdentity(mVal, aVal)) return copy<S, core::C1>(src, srcStep, dst, dstStep, roi);
   }
   if (const RnxStatus status = checkScale(src, srcStep, dst, dstStep, roi)) return status;
   ScaleCall call = planScale<core::C1>(src, srcStep, dst, dstStep, roi);

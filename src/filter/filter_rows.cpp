@@ -142,7 +142,7 @@ RNX_INLINE void filterPairs(const FilterCall<T>& call, SumTwoRows<Lane, T> sum) 
   Lane constant[4] = {};
   for (s64 c = 0; c < call.channels && hasConstant(call); ++c) {
     constexpr int kHalf = 4 * sizeof(Lane);
-    const auto value = static_cast<std::make_unsigned_t<T>>(call.borderValue[c]);
+    const auto value = static_cast<std::make_unsigned_t<T>>(loadOne(call.borderValue + c));
     constant[c] = static_cast<Lane>(value | u32{value} << kHalf);
   }
   filterWholeRows<SumBlock<Lane>::kElements>(call, sum, rowPairs(call.spec->height), 1, [&](s64 pair, Lane* memory) {
@@ -166,7 +166,8 @@ RNX_INLINE void filterConverted(const FilterCall<T>& call, SumTwoRows<Unit, T> s
   const BorderedImage<T> image = imageOf(call);
   const s64 last = lastRow(call), results = elementsOf(call);
   Unit constant[4] = {};
-  for (s64 c = 0; c < call.channels && hasConstant(call); ++c) constant[c] = static_cast<Unit>(call.borderValue[c]);
+  for (s64 c = 0; c < call.channels && hasConstant(call); ++c)
+    constant[c] = static_cast<Unit>(loadOne(call.borderValue + c));
   filterWholeRows<SumBlock<V>::kElements>(call, sum, call.spec->height + 1, 2, [&](s64 row, Unit* memory) {
     makeRow(image, std::min(row, last), memory, constant, results);
     return memory;

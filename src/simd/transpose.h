@@ -68,7 +68,7 @@ RNX_INLINE void interleave(Vec<f32> re, Vec<f32> im, Vec<f32>& first, Vec<f32>& 
   second.raw = RNX_MM(unpackhi_ps)(re.raw, im.raw);
 }
 
-// Of a vector loaded by loadPairs() from p ... this is the one with the elements in opposite order.
+// The elements in opposite order.
 RNX_INLINE Vec<f32> reversed(Vec<f32> v) {
 #if RNX_VECTOR_BYTES == 32
   v.raw = _mm256_permute2f128_ps(v.raw, v.raw, 1);

@@ -1,5 +1,7 @@
 // Scale and ScaleC against their formulas.
+#include <array>
 #include <cmath>
+#include <numeric>
 
 #include "kernel/values_support.h"
 #include "ref/convert_model.h"
@@ -211,6 +213,23 @@ TEST_P(ScaleC, IdentityCopiesBits) {
     const auto bytes = static_cast<size_t>(37 * bytesOf(signature.source()));
     driver.bitByBit = true;
     ASSERT_TRUE(driver.check([=](const u8* from, u8* to, s64) { std::memcpy(to, from, bytes); }));
+  }
+}
+
+// Whole elements one after the other, however few bytes the images are apart.
+TEST(ScaleCIdentity, CopiesDoublesInOrder) {
+  for (const int vectorBytes : vectorWidths()) {
+    const ScopedWidth scope(vectorBytes);
+    for (s64 distance = -20; distance <= 20; ++distance) {
+      std::array<u8, 400> actual, expected;
+      std::iota(actual.begin(), actual.end(), u8{0});
+      expected = actual;
+      for (s64 i = 100; i < 300; i += 8) std::memmove(expected.data() + i + distance, expected.data() + i, 8);
+      const auto* src = reinterpret_cast<const f64*>(actual.data() + 100);
+      auto* dst = reinterpret_cast<f64*>(actual.data() + 100 + distance);
+      ASSERT_EQ(rnxiScaleC_64f_C1R(src, 200, 1.0, 0.0, dst, 200, {25, 1}, rnxAlgHintNone), rnxStatusNoError);
+      ASSERT_EQ(actual, expected) << distance << " bytes apart";
+    }
   }
 }
 
