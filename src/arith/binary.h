@@ -98,7 +98,7 @@ struct Div {
   // Division by 0 has its own result at every factor, so no factor is too large for the kernel.
   template <class T, RightOperand R>
   static Choice<T> choose(const IntegerKernels<T>& k, int scaleFactor) {
-    return {scaleFactor < 0 ? &k.divEvenLeft : &k.divEven, 0};
+    return {scaleFactor < 0 ? &k.divEvenLeft : &k.divEven, scaleFactor};
   }
   static const BinaryForms<f32>& choose(const FloatKernels& k) { return k.div; }
 };
@@ -205,8 +205,8 @@ RnxStatus divideRounded(const T* src1, int src1Step, const T* src2, int src2Step
   if (core::anyStepBelow1(src1Step, src2Step, dstStep)) return rnxStatusBadStep;
   if (roundMode < rnxRoundZero || roundMode > rnxRoundHalfAway) return rnxStatusBadRoundMode;
 
-  const BinaryCall<T> call =
-      planImages<L>(src2, src2Step, src1, src1Step, dst, dstStep, roi, divisionFactor(scaleFactor));
+  BinaryCall<T> call = planImages<L>(src2, src2Step, src1, src1Step, dst, dstStep, roi, divisionFactor(scaleFactor));
+  call.shift = scaleFactor;
   const IntegerKernels<T>& k = kernels<T>(call.rows.bytesMoved);
   const BinaryForms<T>* const byMode[2][3] = {{&k.divZero, &k.divEven, &k.divAway},
                                               {&k.divZeroLeft, &k.divEvenLeft, &k.divAwayLeft}};

@@ -16,7 +16,7 @@ struct BinaryCall {
   int period;  // how many values
   T* dst;
   s64 dstStep;
-  int shift;   // scale factor: bits to the right, or to the left, whichever the kernel does
+  int shift;   // scale factor: bits to the right, or to the left, whichever the kernel does; as it is for division
   f32 factor;  // 2^-scaleFactor, for division
 };
 

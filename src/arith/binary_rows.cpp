@@ -106,10 +106,10 @@ template <class Few, class Any, class Channels>
 bool constantByShift(const BinaryCall<u8>& call) {
   return Few::takes(call.shift) ? constant<u8, Few, Channels>(call) : constant<u8, Any, Channels>(call);
 }
-template <class Few, class Any>
+template <class Few, class Any, class FewColors = Few, class AnyColors = Any>
 constexpr BinaryForms<u8> kFormsByShift = {
     imagesByShift<Few, Any, AllChannels<u8>>, constantByShift<Few, Any, AllChannels<u8>>,
-    imagesByShift<Few, Any, ColorChannels<u8>>, constantByShift<Few, Any, ColorChannels<u8>>};
+    imagesByShift<FewColors, AnyColors, ColorChannels<u8>>, constantByShift<FewColors, AnyColors, ColorChannels<u8>>};
 
 template <class Channels>
 bool addConstantRight(const BinaryCall<u8>& call) {
@@ -151,9 +151,14 @@ constexpr IntegerKernels<T> kIntegerKernels = {
     .divAwayLeft = kDivide<T, RoundHalfAway, true>,
 };
 
+template <class Channels>
+using DivideBytes = Divide<u8, RoundNearestEven, false, Channels>;
+
+constexpr BinaryForms<u8> kDivideBytes = kFormsByShift<FewQuotients<AllChannels<u8>>, DivideBytes<AllChannels<u8>>,
+                                                       FewQuotients<ColorChannels<u8>>, DivideBytes<ColorChannels<u8>>>;
+
 bool divideByConstant(const BinaryCall<u8>& call) {
-  using Any = Divide<u8, RoundNearestEven, false, AllChannels<u8>>;
-  return call.period == 1 ? constant<u8, DivideByOne, AllChannels<u8>>(call) : constant<u8, Any, AllChannels<u8>>(call);
+  return call.period == 1 ? constant<u8, DivideByOne, AllChannels<u8>>(call) : kDivideBytes.constant(call);
 }
 
 constexpr IntegerKernels<u8> of8u() {
@@ -163,6 +168,7 @@ constexpr IntegerKernels<u8> of8u() {
   kernels.addRight.constantAlpha = addConstantRight<ColorChannels<u8>>;
   kernels.subRight = kFormsByShift<ByteDifferenceRight, ScaledRight<u8, Sub>>;
   kernels.mulRight = kFormsByShift<ByteProductRight, ScaledRight<u8, Mul>>;
+  kernels.divEven = kDivideBytes;
   kernels.divEven.constant = divideByConstant;
   return kernels;
 }

@@ -1,6 +1,8 @@
 // Quotients of integers. For row kernels only.
 #pragma once
 
+#include <algorithm>
+
 #include "arith/scaling.h"
 #include "simd/convert.h"
 #include "simd/rows.h"
@@ -25,14 +27,19 @@ public:
   explicit Divide(const BinaryCall<T>& call) : factor_(Vec<F>::splat(F(call.factor))) {}
 
   RNX_INLINE Vec<T> operator()(Vec<T> a, Vec<T> b) {
-    zeros_ = zeros_ | Channels::merge(equal(b, Vec<T>::zero()).template as<T>(), Vec<T>::zero());
-    return result(a, b) & ~equal(a, Vec<T>::zero()).template as<T>();
+    const Vec<T> zeros = equal(b, Vec<T>::zero()).template as<T>();
+    zeros_ = zeros_ | Channels::merge(zeros, Vec<T>::zero());
+    const Vec<T> q = kLimited ? result(a, b) : result(a, b) | zeros;
+    return q & ~equal(a, Vec<T>::zero()).template as<T>();
   }
 
   bool metZeroDivisor() const { return anySet(zeros_); }
 
 private:
   using F = std::conditional_t<ScaledUp && sizeof(T) == 2, f64, f32>;
+  // Quotients without a sign that are not scaled up are in range but for the infinite ones, which become an integer
+  // without any bits of T.
+  static constexpr bool kLimited = ScaledUp || std::is_signed_v<T>;
 
   RNX_INLINE Vec<T> result(Vec<T> a, Vec<T> b) const {
     if constexpr (sizeof(T) == 1) {
@@ -49,20 +56,59 @@ private:
   }
   RNX_INLINE Vec<s32> ofLanes(Vec<s32> a, Vec<s32> b) const {
     if constexpr (std::is_same_v<F, f32>) {
-      return truncateToInt(quotient(toFloat(a), toFloat(b)));
+      return Rounding::toInt(quotient(toFloat(a), toFloat(b)));
     } else {
       const Pair<f64> x = toDouble(a), y = toDouble(b);
-      return truncateToInt(Pair<f64>{quotient(x.lo, y.lo), quotient(x.hi, y.hi)});
+      return Rounding::toInt(Pair<f64>{quotient(x.lo, y.lo), quotient(x.hi, y.hi)});
     }
   }
   RNX_INLINE Vec<F> quotient(Vec<F> a, Vec<F> b) const {
-    Vec<F> q = Rounding::round(a * factor_ / b);
+    Vec<F> q = a * factor_ / b;
+    if constexpr (!kLimited) return q;
     if constexpr (ScaledUp && std::is_signed_v<T>) q = max(q, Vec<F>::splat(F(kMin<T>)));
     return min(q, Vec<F>::splat(F(kMax<T>)));  // the limit for what is no number, too
   }
 
   Vec<F> factor_;
   Vec<T> zeros_ = Vec<T>::zero();
+};
+
+// 8u, half to even, from a scale factor n of 5 on, without a division: there are at most K = 2^(8-n) results above 0.
+// The result is the number of k in 1 ... K with a / (b * 2^n) above k - 1/2, or equal to it where k is even:
+//   (2k - 1) * b <= (a - 1) >> (n - 1)  for odd k,  (2k - 1) * b <= a >> (n - 1)  for even k
+// The multiples of b may saturate, for the right sides are below 16; what is above K does not count by itself.
+template <class Channels>
+class FewQuotients {
+public:
+  static constexpr bool kLong = true;
+  static bool takes(int shift) { return shift >= 5; }
+
+  explicit FewQuotients(const BinaryCall<u8>& call)
+      : pairs_(call.shift > 8 ? 0 : std::max(128 >> call.shift, 1)),
+        count_(shiftCount(std::min(call.shift, 9) - 1)),
+        kept_(Vec<u8>::splat(static_cast<u8>(0xff >> (std::min(call.shift, 9) - 1)))) {}
+
+  RNX_INLINE Vec<u8> operator()(Vec<u8> a, Vec<u8> b) {
+    const Vec<u8> zero = Vec<u8>::zero(), zeros = equal(b, zero).as<u8>();
+    zeros_ = zeros_ | Channels::merge(zeros, zero);
+    const Vec<u8> odd = shifted(subSaturated(a, Vec<u8>::splat(1))), even = shifted(a), twice = addSaturated(b, b);
+    Vec<u8> multiple = b, q = zero;
+    for (int i = 0; i < pairs_; ++i) {
+      const Vec<u8> next = addSaturated(multiple, twice);
+      q = q - equal(max(multiple, odd), odd).as<u8>() - equal(max(next, even), even).as<u8>();
+      multiple = addSaturated(next, twice);
+    }
+    return (q | zeros) & ~equal(a, zero).as<u8>();
+  }
+
+  bool metZeroDivisor() const { return anySet(zeros_); }
+
+private:
+  RNX_INLINE Vec<u8> shifted(Vec<u8> v) const { return shiftRight(v.as<u16>(), count_).as<u8>() & kept_; }
+
+  int pairs_;  // of an odd k and the even one behind it
+  ShiftCount count_;
+  Vec<u8> kept_, zeros_ = Vec<u8>::zero();
 };
 
 // 8u by one constant, half to even, without a division. With d = divisor * 2^scaleFactor:

@@ -190,20 +190,11 @@ RNX_INLINE Block<D, N> narrowTo(const Block<T, N>& block) {
 RNX_INLINE Vec<f32> narrowToSingle(Vec<f64> a, Vec<f64> b) {
   return {_mm256_set_m128(_mm256_cvtpd_ps(b.raw), _mm256_cvtpd_ps(a.raw))};
 }
-RNX_INLINE Vec<s32> nearestInt(Vec<f64> a, Vec<f64> b) {
-  return Vec<s32>::of(_mm256_set_m128i(_mm256_cvtpd_epi32(b.raw), _mm256_cvtpd_epi32(a.raw)));
-}
 #else
 RNX_INLINE Vec<f32> narrowToSingle(Vec<f64> a, Vec<f64> b) {
   return {_mm_movelh_ps(_mm_cvtpd_ps(a.raw), _mm_cvtpd_ps(b.raw))};
 }
-RNX_INLINE Vec<s32> nearestInt(Vec<f64> a, Vec<f64> b) {
-  return Vec<s32>::of(_mm_unpacklo_epi64(_mm_cvtpd_epi32(a.raw), _mm_cvtpd_epi32(b.raw)));
-}
 #endif
-// By the rounding direction of the processor, which the call has set to nearest even. Outside the int range, and for
-// what is not a number: INT_MIN.
-RNX_INLINE Vec<s32> nearestInt(Vec<f32> v) { return Vec<s32>::of(RNX_MM(cvtps_epi32)(v.raw)); }
 
 template <int N>
 RNX_INLINE Block<f32, N> narrowToSingle(const Block<f64, N>& block) {

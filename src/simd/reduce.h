@@ -155,12 +155,11 @@ struct TwoPairs {
   Vec<f64> first, second;
 };
 RNX_INLINE TwoPairs fourAsDouble(const f32* p, [[maybe_unused]] s64 step) {
-  const __m128 a = _mm_loadu_ps(p);
 #if RNX_VECTOR_BYTES == 32
-  const __m128 b = _mm_loadu_ps(core::at(p, step));
-  return {{_mm256_cvtps_pd(_mm_movelh_ps(a, b))}, {_mm256_cvtps_pd(_mm_movehl_ps(b, a))}};
+  const __m256d a = _mm256_cvtps_pd(_mm_loadu_ps(p)), b = _mm256_cvtps_pd(_mm_loadu_ps(core::at(p, step)));
+  return {{_mm256_insertf128_pd(a, _mm256_castpd256_pd128(b), 1)}, {_mm256_permute2f128_pd(a, b, 0x31)}};
 #else
-  return {{_mm_cvtps_pd(a)}, {_mm_cvtps_pd(_mm_movehl_ps(a, a))}};
+  return {pairsAsDouble(p, step), pairsAsDouble(core::at(p, 0, 2), step)};
 #endif
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "simd/cast.h"
+#include "simd/convert.h"
 
 namespace rnx::simd {
 namespace {
@@ -47,7 +48,7 @@ struct ToNearestEven {
   }
   template <class D, int N>
   static RNX_INLINE Block<s32, N> toInt(const Block<f64, N>& block) {
-    return toInts(block, [](Vec<f64> a, Vec<f64> b) RNX_INLINE_LAMBDA { return nearestInt(a, b); });
+    return toInts(block, [](Vec<f64> a, Vec<f64> b) RNX_INLINE_LAMBDA { return nearestInt(Pair<f64>{a, b}); });
   }
 };
 
@@ -59,19 +60,14 @@ struct HalfAway {
     return min(v, high);
   }
   template <class T>
-  static RNX_INLINE Vec<T> withHalf(Vec<T> v) {
-    const auto sign = v.template as<u8>() & Vec<T>::splat(T(-0.0)).template as<u8>();
-    return v + (Vec<T>::splat(T(0.5)).template as<u8>() | sign).template as<T>();
-  }
-  template <class T>
   static RNX_INLINE Vec<T> rounded(Vec<T> v) {
-    return roundTo<_MM_FROUND_TO_ZERO>(withHalf(v));
+    return RoundHalfAway::round(v);
   }
   // Where D has no sign, negative values need not be told apart: with a half they are below 1 and become 0.
   template <class D, class T, int N>
   static RNX_INLINE Block<s32, N> toInt(const Block<T, N>& block) {
     return ToZero::truncated(map(block, [](Vec<T> v) RNX_INLINE_LAMBDA {
-      return std::is_unsigned_v<D> ? v + Vec<T>::splat(T(0.5)) : withHalf(v);
+      return std::is_unsigned_v<D> ? v + Vec<T>::splat(T(0.5)) : RoundHalfAway::withHalf(v);
     }));
   }
 };
