@@ -76,10 +76,18 @@ void linearDouble(s32* index, f64* weights, s64 n, f64 scale) {
 }
 
 bool ascending(const s32* index, s64 n) {
+  constexpr int kAtOnce = 4;
+  const auto fallsAt = [=](s64 i) RNX_INLINE_LAMBDA {
+    return greater(Vec<s32>::load(index + i), Vec<s32>::load(index + i + 1));
+  };
   s64 i = 0;
-  Mask<s32> falls = Mask<s32>::zero();
-  for (; i + L < n; i += L) falls = falls | greater(Vec<s32>::load(index + i), Vec<s32>::load(index + i + 1));
-  bool holds = !anySet(falls);
+  Mask<s32> falls[kAtOnce] = {};
+  for (; i + kAtOnce * L < n; i += kAtOnce * L) {
+    RNX_UNROLL
+    for (int k = 0; k < kAtOnce; ++k) falls[k] = falls[k] | fallsAt(i + k * L);
+  }
+  for (; i + L < n; i += L) falls[0] = falls[0] | fallsAt(i);
+  bool holds = !anySet((falls[0] | falls[1]) | (falls[2] | falls[3]));
   for (; i + 1 < n; ++i) holds = holds && index[i] <= index[i + 1];
   return holds;
 }
