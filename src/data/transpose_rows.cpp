@@ -42,6 +42,35 @@ struct Tile {
   }
 };
 
+#if RNX_VECTOR_BYTES == 32
+// Pixels of 8 bytes: four columns, which are a vector of the source.
+template <bool Keeps>
+struct Tile<8, Keeps> {
+  static constexpr int kColumns = 4, kRows = 2;
+
+  static RNX_INLINE void move(const Image image, s64 x, s64 y, s64 apart, s64) {
+    const u8* src = core::at(image.src, y * image.srcStep + x * 8);
+    u8* dst = core::at(image.dst, x * image.dstStep + y * 8);
+    Vec<u8> v[kColumns];
+    RNX_UNROLL
+    for (int g = 0; g < 2; ++g) {
+      v[2 * g] = Vec<u8>::load(core::at(src, g * apart * image.srcStep));
+      v[2 * g + 1] = Vec<u8>::load(core::at(src, (g * apart + 1) * image.srcStep));
+    }
+    transposeEights(v);
+    RNX_UNROLL
+    for (int c = 0; c < kColumns; ++c, dst = core::at(dst, image.dstStep)) {
+      if (Keeps) v[c] = select(Mask<u8>::load(kAlphaBytes<8>.at), loadChunks(dst, apart * 8), v[c]);
+      if (apart == kRows) {
+        v[c].store(dst);
+      } else {
+        storeChunks(dst, apart * 8, v[c]);
+      }
+    }
+  }
+};
+#endif
+
 // Pixels of 16 bytes only change places: four columns, as many as fill a cache line of the source.
 template <bool Keeps>
 struct Tile<16, Keeps> {
@@ -156,10 +185,25 @@ s64 stripRows(s64 srcStep) {
   return std::max(linesOfColumn(srcStep) / 2 / kSpan * kSpan, kSpan);
 }
 
+// The rows of a block lie so far apart in memory that no processor foresees them.
+constexpr s64 kRowsAhead = 32;
+inline bool inCaches(s64 bytes) { return bytes <= 0x500000; }  // near enough to fetch nothing ahead
+
+template <int P>
+RNX_INLINE void fetchRows(const u8* image, s64 step, s64 x0, s64 x1, s64 y0, s64 y1) {
+  constexpr s64 kLine = 64;
+  for (s64 y = y0; y < y1; ++y) {
+    const u8 *first = core::at(image, y * step + x0 * P), *end = core::at(first, (x1 - x0) * P);
+    const auto misplaced = static_cast<s64>(reinterpret_cast<uintptr_t>(first) % kLine);
+    for (const u8* line = core::at(first, -misplaced); line < end; line += kLine) _mm_prefetch(line, _MM_HINT_T1);
+  }
+}
+
 // Columns [x0, x1) of rows [y0, y1) of an image that is `width` pixels wide. Tiles at the ends overlap their
-// neighbours. The image is a copy, which no store can change: nothing is loaded again.
-template <int P, bool Keeps>
-void transposeBlock(const Image image, s64 x0, s64 x1, s64 y0, s64 y1, s64 width) {
+// neighbours. The image is a copy, which no store can change: nothing is loaded again. Rows further down, in front of
+// row `fetched`, are fetched ahead.
+template <int P, bool Keeps, bool Fetches = false>
+void transposeBlock(const Image image, s64 x0, s64 x1, s64 y0, s64 y1, s64 width, s64 fetched = 0) {
   using Tile = Tile<P, Keeps>;
   constexpr s64 kSpan = Tile::kRows * kGroups;
   // A chunk of 12 bytes of pixels needs 16 bytes of a row.
@@ -173,7 +217,12 @@ void transposeBlock(const Image image, s64 x0, s64 x1, s64 y0, s64 y1, s64 width
     for (s64 x = x0; x < x1; x += Tile::kColumns) {
       const s64 column = std::min(x, x1 - Tile::kColumns);
       s64 y = top;
-      for (; y + kSpan <= bottom; y += kSpan) Tile::move(image, column, y, Tile::kRows, width);
+      for (; y + kSpan <= bottom; y += kSpan) {
+        if (Fetches && x == x0) {
+          fetchRows<P>(image.src, image.srcStep, x0, x1, y + kRowsAhead, std::min(y + kRowsAhead + kSpan, fetched));
+        }
+        Tile::move(image, column, y, Tile::kRows, width);
+      }
       if (y < bottom) Tile::move(image, column, lastY, lastApart, width);
     }
   }
@@ -184,13 +233,15 @@ void transpose(const TransposeCall& call) {
   const Image image = {call.src, call.srcStep, call.dst, call.dstStep};
   if (call.inOrder) return pixelByPixel<P, Keeps>(image, 0, call.width, 0, call.height);
   const s64 columns = blockColumns<P>(call.srcStep);
+  const auto block =
+      inCaches(call.width * call.height * P) ? transposeBlock<P, Keeps, false> : transposeBlock<P, Keeps, true>;
   // A rest shorter than a block joins the last one.
   const auto end = [](s64 start, s64 n, s64 size) { return n - start < 2 * size ? n : start + size; };
   for (s64 x = 0, nextX = 0; x < call.width; x = nextX) {
     nextX = end(x, call.width, columns);
     for (s64 y = 0, nextY = 0; y < call.height; y = nextY) {
       nextY = end(y, call.height, kBlockRows);
-      transposeBlock<P, Keeps>(image, x, nextX, y, nextY, call.width);
+      block(image, x, nextX, y, nextY, call.width, call.height);
     }
   }
 }
@@ -213,12 +264,18 @@ void inPlace(u8* image, s64 step, s64 size, bool inOrder) {
     return;
   }
   constexpr s64 kSize = kSquare<P>;
+  const bool far = !inCaches(size * size * P);
   u8 buffer[kSize * kSize * P];
   for (s64 y = 0; y < size; y += kSize) {
     const s64 rows = std::min(kSize, size - y);
     for (s64 x = 0; x <= y; x += kSize) {
       const s64 columns = std::min(kSize, size - x);
       u8 *lower = core::at(image, y * step + x * P), *upper = core::at(image, x * step + y * P);
+      if (far && x < y) {
+        const s64 next = x + kSize, end = std::min(next + kSize, size);
+        fetchRows<P>(image, step, y, y + rows, next, end);
+        fetchRows<P>(image, step, next, end, y, y + rows);
+      }
       transposeBlock<P, false>({lower, step, buffer, rows * P}, 0, columns, 0, rows, columns);
       if (x < y) transposeBlock<P, false>({upper, step, lower, step}, 0, rows, 0, columns, rows);
       for (s64 r = 0; r < columns; ++r) Row::copy(core::at(upper, r * step), buffer + r * rows * P, rows);

@@ -324,5 +324,20 @@ bool sameAlignment(Byte* const* pointers, int n) {
   });
 }
 
+#if RNX_VECTOR_BYTES == 32
+// Four rows of four values of 8 bytes.
+RNX_INLINE void transposeEights(Vec<u8> (&v)[4]) {
+  const __m256i ab[2] = {_mm256_unpacklo_epi64(v[0].bits(), v[1].bits()),
+                         _mm256_unpackhi_epi64(v[0].bits(), v[1].bits())};
+  const __m256i cd[2] = {_mm256_unpacklo_epi64(v[2].bits(), v[3].bits()),
+                         _mm256_unpackhi_epi64(v[2].bits(), v[3].bits())};
+  RNX_UNROLL
+  for (int i = 0; i < 2; ++i) {
+    v[i] = Vec<u8>::of(_mm256_permute2x128_si256(ab[i], cd[i], 0x20));
+    v[2 + i] = Vec<u8>::of(_mm256_permute2x128_si256(ab[i], cd[i], 0x31));
+  }
+}
+#endif
+
 }  // namespace
 }  // namespace rnx::simd
