@@ -144,26 +144,25 @@ private:
   Mask<u8> keep_;
 };
 
-// One of four channels: chunk i gives word i.
+// One of four channels: chunk i gives word i. Behind a channel pointer the groups of a row but the first are read from
+// where their first pixel begins, if pixels lie at multiples of their size: such loads divide no cache line.
 class ExtractOfFour : public BetweenPixels {
 public:
   static constexpr bool kOneChunk = false;
 
-  explicit ExtractOfFour(const ChannelCall& call) : BetweenPixels(call) {
+  explicit ExtractOfFour(const ChannelCall& call) : BetweenPixels(call), early_(bytesInFront(call)) {
+    const Vec<u8> at = positionsOf(call, 0) + Vec<u8>::splat(static_cast<u8>(early_));
     RNX_UNROLL
-    for (int i = 0; i < 4; ++i) index_[i] = indexInto(i, positionsOf(call, 0));
+    for (int i = 0; i < 4; ++i) index_[i] = indexInto(i, at);
+    for (int b = 0; b < kBytes; ++b) behind_.raw[b] = static_cast<u8>(b % kChunk < early_ ? 0x80 : b % kChunk - early_);
   }
 
   template <bool Adjacent>
   RNX_INLINE Vec<u8> compute(s64 x, s64 apart) const {
-    const u8* src = src_ + x * srcPixel_;
-    Vec<u8> v = Vec<u8>::zero();
-    RNX_UNROLL
-    for (int i = 0; i < 4; ++i) {
-      const Vec<u8> in = Adjacent ? Vec<u8>::load(src + i * kBytes) : loadChunks(src + i * kChunk, apart * srcPixel_);
-      v = i == 0 ? shuffle(in, index_[i]) : v | shuffle(in, index_[i]);
+    if (x == 0) {  // nothing in front of the row may be read: the bytes are moved
+      return extract<Adjacent>(src_, apart, [&](Vec<u8> v) RNX_INLINE_LAMBDA { return shuffle(v, behind_); });
     }
-    return Adjacent ? wordsToMemory(v) : v;
+    return extract<Adjacent>(src_ + x * srcPixel_ - early_, apart, [](Vec<u8> v) RNX_INLINE_LAMBDA { return v; });
   }
 
   template <bool Adjacent, bool Stream>
@@ -172,7 +171,26 @@ public:
   }
 
 private:
-  Vec<u8> index_[4];
+  static s64 bytesInFront(const ChannelCall& call) {
+    const s64 pixel = call.elementBytes * s64{4},
+              bytes = static_cast<s64>(reinterpret_cast<uintptr_t>(call.src[0])) % pixel;
+    return call.srcStep % pixel == 0 && bytes % call.elementBytes == 0 ? bytes : 0;
+  }
+
+  template <bool Adjacent, class Placed>
+  RNX_INLINE Vec<u8> extract(const u8* src, s64 apart, Placed placed) const {
+    Vec<u8> v = Vec<u8>::zero();
+    RNX_UNROLL
+    for (int i = 0; i < 4; ++i) {
+      const Vec<u8> in = Adjacent ? Vec<u8>::load(src + i * kBytes) : loadChunks(src + i * kChunk, apart * srcPixel_);
+      const Vec<u8> part = shuffle(placed(in), index_[i]);
+      v = i == 0 ? part : v | part;
+    }
+    return Adjacent ? wordsToMemory(v) : v;
+  }
+
+  s64 early_;
+  Vec<u8> index_[4], behind_;
 };
 
 // One channel into one or all of three or four.
