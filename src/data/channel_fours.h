@@ -154,7 +154,8 @@ public:
     const Vec<u8> at = positionsOf(call, 0) + Vec<u8>::splat(static_cast<u8>(early_));
     RNX_UNROLL
     for (int i = 0; i < 4; ++i) index_[i] = indexInto(i, at);
-    for (int b = 0; b < kBytes; ++b) behind_.raw[b] = static_cast<u8>(b % kChunk < early_ ? 0x80 : b % kChunk - early_);
+    alignas(kChunk) static constexpr u8 kPlaces[kChunk] = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15};
+    behind_ = everyGroup(loadChunk(kPlaces)) - Vec<u8>::splat(static_cast<u8>(early_));  // below 0: no byte
   }
 
   template <bool Adjacent>
@@ -172,9 +173,8 @@ public:
 
 private:
   static s64 bytesInFront(const ChannelCall& call) {
-    const s64 pixel = call.elementBytes * s64{4},
-              bytes = static_cast<s64>(reinterpret_cast<uintptr_t>(call.src[0])) % pixel;
-    return call.srcStep % pixel == 0 && bytes % call.elementBytes == 0 ? bytes : 0;
+    const s64 pixel = call.elementBytes * s64{4}, bytes = reinterpret_cast<intptr_t>(call.src[0]) & (pixel - 1);
+    return (call.srcStep & (pixel - 1)) == 0 && (bytes & (call.elementBytes - 1)) == 0 ? bytes : 0;
   }
 
   template <bool Adjacent, class Placed>
