@@ -47,10 +47,10 @@ extern const BorderKernels borderKernels;
 // Builds the frame, and copies the image where there is a source. With keepsAlpha pixels are four elements, of which
 // the destination's fourth is never changed.
 inline void extendImage(int pixelBytes, bool keepsAlpha, BorderCall call) {
-  const s64 rows = call.src == nullptr ? call.top + call.bottom : call.top + call.height + call.bottom;
+  const s64 border = call.top + call.bottom, rows = call.src == nullptr ? border : border + call.height;
   const s64 rowBytes = (call.left + call.width + call.right) * pixelBytes;
   // Rows that overlap each other: what comes out depends on the vectors, so let it be the same ones always.
-  const bool rowsOverlap = rows > 1 && call.dstStep < rowBytes;
+  const bool rowsOverlap = border + call.height > 1 && call.dstStep < rowBytes;
   call.stream = call.src != nullptr && core::exceedsCaches(call.width * call.height * pixelBytes + rowBytes * rows);
   const bool wide = !rowsOverlap && core::wideRows(rowBytes * rows);
   (wide ? v256::borderKernels : v128::borderKernels).get(pixelBytes, keepsAlpha)(call);

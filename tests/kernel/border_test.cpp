@@ -156,6 +156,28 @@ TEST_P(Borders, CopyTheInteriorFirstWhereImagesOverlap) {
   }
 }
 
+// What comes out where a row overlaps the next ones is not promised, but it is one thing.
+TEST_P(Borders, AreTheSameInBothWidthsWhereRowsOverlap) {
+  pickValues();
+  for (const s64 step : {1, 3, 100}) {
+    for (int rows = 0; rows < 4; ++rows) {  // above and below
+      const Frame f = {random.between(2100, 2300) / pixelBytes, random.between(2, 60), rows % 2, rows / 2, 13, 5};
+      const s64 rowBytes = (f.left + f.width + f.right) * pixelBytes;
+      const s64 bytes = (f.top + f.height + f.bottom) * step + rowBytes, start = f.top * step + f.left * pixelBytes;
+      std::vector<u8> before(static_cast<size_t>(bytes)), src(before.size());
+      fillBytes(random, before.data(), bytes);
+      fillBytes(random, src.data(), bytes);
+      std::vector<std::vector<u8>> results;
+      for (const int vector : vectorWidths()) {
+        const ScopedWidth width(vector);
+        std::vector<u8>& result = results.emplace_back(before);
+        ASSERT_EQ(run(f, inPlace ? result.data() + start : src.data(), step, result.data(), step), rnxStatusNoError);
+      }
+      EXPECT_EQ(results.front(), results.back()) << "step " << step << " top " << f.top << " bottom " << f.bottom;
+    }
+  }
+}
+
 TEST_P(Borders, RefuseWhatDoesNotFit) {
   const auto status = [&](const Frame& f) {
     u8 image[64 * 16] = {}, other[64 * 16] = {};
