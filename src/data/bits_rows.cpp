@@ -39,13 +39,14 @@ public:
 
   // The bits before the row's first one go through the accumulator like those of pixels.
   void row(const T* src, u8* dst, s64 n, int offset) const {
+    const ToBits own = *this;  // in registers, which no store to the result can change
     const u32 outside = (1u << offset) - 1;
     u64 before = *dst & outside;
     if (offset == 0) {
-      for (; n >= kWord; n -= kWord, src += kWord, dst += kWord / 8) put(dst, word(src));
+      for (; n >= kWord; n -= kWord, src += kWord, dst += kWord / 8) put(dst, own.word(src));
     } else {
       for (; n >= kWord; n -= kWord, src += kWord, dst += kWord / 8) {
-        const u64 bits = word(src);
+        const u64 bits = own.word(src);
         put(dst, bits << offset | before);
         before = bits >> (kWord - offset);
       }
@@ -128,10 +129,11 @@ public:
   FromBits(T low, T high) : low_(Vec<T>::splat(low)), high_(Vec<T>::splat(high)) {}
 
   void row(const u8* src, T* dst, s64 n, int offset) const {
+    const FromBits own = *this;  // as above
     if (offset == 0) {
-      for (; n >= kWord; n -= kWord, src += kWord / 8, dst += kWord) word(get(src), dst);
+      for (; n >= kWord; n -= kWord, src += kWord / 8, dst += kWord) own.word(get(src), dst);
     } else {
-      for (; n >= kWord; n -= kWord, src += kWord / 8, dst += kWord) word(shifted(get(src), src[8], offset), dst);
+      for (; n >= kWord; n -= kWord, src += kWord / 8, dst += kWord) own.word(shifted(get(src), src[8], offset), dst);
     }
     if (n == 0) return;
     const int bytes = static_cast<int>(offset + n + 7) / 8;

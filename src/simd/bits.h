@@ -50,17 +50,26 @@ RNX_INLINE u32 bitsOfMasks(const Mask<T>* masks) {
   }
 }
 
+// For each byte of the lanes: the byte of the bits and the bit of that byte.
+template <class T>
+struct BitPlaces {
+  alignas(kBytes) u8 byte[kBytes], bit[kBytes];
+  constexpr BitPlaces() : byte(), bit() {
+    for (int b = 0; b < kBytes; ++b) {
+      const int lane = b / static_cast<int>(sizeof(T));
+      byte[b] = static_cast<u8>(lane / 8);
+      bit[b] = static_cast<u8>(1 << lane % 8);
+    }
+  }
+};
+template <class T>
+constexpr BitPlaces<T> kBitPlaces;
+
 // All ones in the lanes whose bits are 1.
 template <class T>
 class BitSpreader {
 public:
-  BitSpreader() {
-    for (int b = 0; b < kBytes; ++b) {
-      const int lane = b / static_cast<int>(sizeof(T));
-      index_.raw[b] = static_cast<u8>(lane / 8);
-      own_.raw[b] = static_cast<u8>(1 << lane % 8);
-    }
-  }
+  BitSpreader() : index_(Vec<u8>::load(kBitPlaces<T>.byte)), own_(Vec<u8>::load(kBitPlaces<T>.bit)) {}
 
   // Of bits in every 8 bytes.
   RNX_INLINE Mask<T> operator()(Vec<u64> bits) const {
@@ -68,7 +77,7 @@ public:
   }
 
 private:
-  Vec<u8> index_, own_;  // byte of the bits and bit of the byte, for each byte of the lanes
+  Vec<u8> index_, own_;
 };
 
 template <int N>
