@@ -279,8 +279,10 @@ void Arguments::measureFilter() {
   const int kernelType = specKind_ == 2 ? rnx64f : specKind_ == 1 ? rnx32f : rnx16s;
   // A spec of another type goes with a buffer for this one's channels.
   RnxiSize roi = plain(roi_.width, roi_.height);
-  if (specKind_ == 2 && !s_.layout.empty()) roi.width *= s_.channels();
   if (roi.width < 1 || roi.height < 1 || !s_.has("filterspec")) roi = {1, 1};
+  if (specKind_ == 2 && !s_.layout.empty()) {
+    roi.width = static_cast<int>(std::min<s64>(s64{roi.width} * s_.channels(), INT32_MAX));
+  }
   rnxiFilterBorderGetSize(kernel_, roi, specType_, kernelType, channels, &spec, &buffer);
   specBytes_ = std::max(spec, 64);
   bufferBytes_ = std::max(buffer, 64);
