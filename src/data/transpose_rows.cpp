@@ -195,7 +195,9 @@ RNX_INLINE void fetchRows(const u8* image, s64 step, s64 x0, s64 x1, s64 y0, s64
   for (s64 y = y0; y < y1; ++y) {
     const u8 *first = core::at(image, y * step + x0 * P), *end = core::at(first, (x1 - x0) * P);
     const auto misplaced = static_cast<s64>(reinterpret_cast<uintptr_t>(first) % kLine);
-    for (const u8* line = core::at(first, -misplaced); line < end; line += kLine) _mm_prefetch(line, _MM_HINT_T1);
+    for (const u8* line = core::at(first, -misplaced); line < end; line += kLine) {
+      __builtin_prefetch(line, 0, 2);  // to be read, into the second cache
+    }
   }
 }
 
