@@ -84,14 +84,12 @@ public:
   static bool takes(int shift) { return shift >= 5; }
 
   explicit FewQuotients(const BinaryCall<u8>& call)
-      : pairs_(call.shift > 8 ? 0 : std::max(128 >> call.shift, 1)),
-        count_(shiftCount(std::min(call.shift, 9) - 1)),
-        kept_(Vec<u8>::splat(static_cast<u8>(0xff >> (std::min(call.shift, 9) - 1)))) {}
+      : pairs_(call.shift > 8 ? 0 : std::max(128 >> call.shift, 1)), shifted_(std::min(call.shift, 9) - 1) {}
 
   RNX_INLINE Vec<u8> operator()(Vec<u8> a, Vec<u8> b) {
     const Vec<u8> zero = Vec<u8>::zero(), zeros = equal(b, zero).as<u8>();
     zeros_ = zeros_ | Channels::merge(zeros, zero);
-    const Vec<u8> odd = shifted(subSaturated(a, Vec<u8>::splat(1))), even = shifted(a), twice = addSaturated(b, b);
+    const Vec<u8> odd = shifted_(subSaturated(a, Vec<u8>::splat(1))), even = shifted_(a), twice = addSaturated(b, b);
     Vec<u8> multiple = b, q = zero;
     for (int i = 0; i < pairs_; ++i) {
       const Vec<u8> next = addSaturated(multiple, twice);
@@ -104,11 +102,9 @@ public:
   bool metZeroDivisor() const { return anySet(zeros_); }
 
 private:
-  RNX_INLINE Vec<u8> shifted(Vec<u8> v) const { return shiftRight(v.as<u16>(), count_).as<u8>() & kept_; }
-
   int pairs_;  // of an odd k and the even one behind it
-  ShiftCount count_;
-  Vec<u8> kept_, zeros_ = Vec<u8>::zero();
+  ByteShift shifted_;
+  Vec<u8> zeros_ = Vec<u8>::zero();
 };
 
 // 8u by one constant, half to even, without a division. With d = divisor * 2^scaleFactor:

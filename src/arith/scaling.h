@@ -99,6 +99,18 @@ private:
   Vec<W> restBits_, aboveHalf_;
 };
 
+// Bytes shifted right by 0 to 8 bits, in lanes of words of which only the bits that stay in their byte are kept.
+class ByteShift {
+public:
+  explicit ByteShift(int n) : n_(shiftCount(n)), kept_(Vec<u8>::splat(static_cast<u8>(0xff >> n))) {}
+
+  RNX_INLINE Vec<u8> operator()(Vec<u8> v) const { return shiftRight(v.as<u16>(), n_).as<u8>() & kept_; }
+
+private:
+  ShiftCount n_;
+  Vec<u8> kept_;
+};
+
 // v * 2^n for n from 0, where the limits keep one step beyond the range of T, so that narrow() saturates.
 template <class W, class T>
 class Left {

@@ -19,27 +19,24 @@ struct ByteProductRight : Scaled<u8, Mul, RightWithHalf> {
 
 // (h + 2^(n-1) - 1 + odd) >> n in lanes of bytes, where h is a difference, or floor(sum / 2) and a bit is lost:
 //   odd = (bit n of h) or (the bit lost)
-// The first halving of the shift is an average, (a + b + 1) >> 1, which cannot overflow; the shifts are those of words,
-// of which only the bits that stay in their byte are kept.
+// The first halving of the shift is an average, (a + b + 1) >> 1, which cannot overflow.
 class ByteRight {
 public:
   explicit ByteRight(int n)
       : n_(shiftCount(n)),
-        rest_(shiftCount(n - 1)),
+        rest_(n - 1),
         oddBit_(Vec<u8>::splat(n < 8 ? 1 : 0)),
-        addend_(Vec<u8>::splat(static_cast<u8>((1 << (n - 1)) - 2))),
-        kept_(Vec<u8>::splat(static_cast<u8>(0xFF >> (n - 1)))) {}
+        addend_(Vec<u8>::splat(static_cast<u8>((1 << (n - 1)) - 2))) {}
 
   RNX_INLINE Vec<u8> operator()(Vec<u8> h, Vec<u8> lost) const {
-    const Vec<u8> odd = (shifted(h, n_) & oddBit_) | lost;
-    return shifted(average(h, addend_ + odd), rest_) & kept_;
+    const Vec<u8> odd = (shiftRight(h.as<u16>(), n_).as<u8>() & oddBit_) | lost;
+    return rest_(average(h, addend_ + odd));
   }
 
 private:
-  static RNX_INLINE Vec<u8> shifted(Vec<u8> v, ShiftCount n) { return shiftRight(v.as<u16>(), n).as<u8>(); }
-
-  ShiftCount n_, rest_;
-  Vec<u8> oddBit_, addend_, kept_;
+  ShiftCount n_;
+  ByteShift rest_;
+  Vec<u8> oddBit_, addend_;
 };
 
 class ByteSumRight : public NoDivision<u8> {
@@ -67,19 +64,18 @@ public:
 
   explicit ByteConstantRight(const BinaryCall<u8>& call)
       : NoDivision(call),
-        rest_(shiftCount(call.shift - 1)),
-        kept_(Vec<u8>::splat(static_cast<u8>(0xFF >> (call.shift - 1)))),
+        rest_(call.shift - 1),
         below_(Vec<u8>::splat(static_cast<u8>((2 << call.shift) - 1))),
         tie_(Vec<u8>::splat(static_cast<u8>((1 << call.shift) - 1))) {}
 
   RNX_INLINE Vec<u8> operator()(Vec<u8> x, Vec<u8> before, Vec<u8> above) const {
-    const Vec<u8> up = (shiftRight(average(x, before).as<u16>(), rest_).as<u8>() & kept_) + above;
+    const Vec<u8> up = rest_(average(x, before)) + above;
     return up + equal((x + before) & below_, tie_).as<u8>();
   }
 
 private:
-  ShiftCount rest_;
-  Vec<u8> kept_, below_, tie_;
+  ByteShift rest_;
+  Vec<u8> below_, tie_;
 };
 
 // Differences below 0 become 0 in any case.

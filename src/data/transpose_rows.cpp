@@ -15,6 +15,17 @@ struct Image {
   s64 dstStep;
 };
 
+// Two groups of kRows pixels, the second one `apart` pixels behind the first.
+template <int P, bool Keeps, int kRows>
+RNX_INLINE void storeTileRow(u8* dst, s64 apart, Vec<u8> v) {
+  if (Keeps) v = select(Mask<u8>::load(kAlphaBytes<P>.at), loadChunks(dst, apart * P), v);
+  if (apart == kRows) {
+    v.store(dst);
+  } else {
+    storeChunks(dst, apart * P, v);
+  }
+}
+
 // Pixels of 1, 2, 4 or 8 bytes: a square of one chunk in each direction.
 template <int P, bool Keeps>
 struct Tile {
@@ -32,12 +43,7 @@ struct Tile {
     transposeChunks<P>(v);
     RNX_UNROLL
     for (int c = 0; c < kColumns; ++c, dst = core::at(dst, image.dstStep)) {
-      if (Keeps) v[c] = select(Mask<u8>::load(kAlphaBytes<P>.at), loadChunks(dst, apart * P), v[c]);
-      if (apart == kRows) {
-        v[c].store(dst);
-      } else {
-        storeChunks(dst, apart * P, v[c]);
-      }
+      storeTileRow<P, Keeps, kRows>(dst, apart, v[c]);
     }
   }
 };
@@ -60,12 +66,7 @@ struct Tile<8, Keeps> {
     transposeEights(v);
     RNX_UNROLL
     for (int c = 0; c < kColumns; ++c, dst = core::at(dst, image.dstStep)) {
-      if (Keeps) v[c] = select(Mask<u8>::load(kAlphaBytes<8>.at), loadChunks(dst, apart * 8), v[c]);
-      if (apart == kRows) {
-        v[c].store(dst);
-      } else {
-        storeChunks(dst, apart * 8, v[c]);
-      }
+      storeTileRow<8, Keeps, kRows>(dst, apart, v[c]);
     }
   }
 };
