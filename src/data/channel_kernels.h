@@ -3,6 +3,7 @@
 // numbers of channels; the size of the elements is data.
 #pragma once
 
+#include "core/compiler.h"
 #include "data/pixels.h"
 
 namespace rnx::data {
@@ -42,36 +43,45 @@ constexpr Positions positions(const Route& route, int elementBytes) {
   return result;
 }
 
-// The first chunk of it, at run time, for pixel orders with four channels on one side or both: chunks hold whole pixels
-// and are all alike. All bytes of a pixel are formed at once; from pixel to pixel the positions grow by a source pixel.
-template <int ElementBytes, int Channels>  // of the destination
-inline void firstPositions(const Route& route, Positions& result) {
+// The same at run time, for the first Pixels of a destination in pixel order. All bytes of a pixel are formed at once;
+// from pixel to pixel the positions grow by a source pixel.
+template <int ElementBytes, int Channels, int Pixels>
+RNX_INLINE void firstPositions(const Route& route, Positions& result) {
   constexpr u32 kOnes = ElementBytes == 4 ? 0x01010101 : ElementBytes == 2 ? 0x0101 : 1;
   constexpr u32 kAscending = ElementBytes == 4 ? 0x03020100 : ElementBytes == 2 ? 0x0100 : 0;
   constexpr int kElementBits = 8 * ElementBytes, kPixelBits = Channels * kElementBits;
-  u64 words[3] = {};
-  if constexpr (ElementBytes == 4) {
-    for (int c = 0; c < Channels; ++c) {
-      const int from = route.from[c];
-      const u32 element = from < 0 ? kOnes * static_cast<u8>(from) : kOnes * static_cast<u8>(from * 4) + kAscending;
-      words[c / 2] |= u64{element} << c % 2 * kElementBits;
-    }
-  } else {
-    u64 pixel = 0, growth = 0;
-    for (int c = 0; c < Channels; ++c) {
-      const int from = route.from[c];
-      const u32 element =
-          from < 0 ? kOnes * static_cast<u8>(from) : kOnes * static_cast<u8>(from * ElementBytes) + kAscending;
-      const u32 step = from < 0 ? 0 : kOnes * static_cast<u8>(route.srcChannels * ElementBytes);
+  u64 words[7] = {};
+  const auto put = [&](u64 value, int bits, int at) RNX_INLINE_LAMBDA {
+    words[at / 64] |= value << at % 64;
+    if (at % 64 + bits > 64) words[at / 64 + 1] |= value >> (64 - at % 64);
+  };
+  u64 pixel = 0, growth = 0;
+  RNX_UNROLL
+  for (int c = 0; c < Channels; ++c) {
+    const int from = route.from[c];
+    const u32 element =
+        from < 0 ? kOnes * static_cast<u8>(from) : kOnes * static_cast<u8>(from * ElementBytes) + kAscending;
+    const u32 step = from < 0 ? 0 : kOnes * static_cast<u8>(route.srcChannels * ElementBytes);
+    if constexpr (kPixelBits > 64) {
+      RNX_UNROLL
+      for (u32 p = 0; p < Pixels; ++p)
+        put(element + p * step, kElementBits, static_cast<int>(p) * kPixelBits + c * kElementBits);
+    } else {
       pixel |= u64{element} << c * kElementBits;
       growth |= u64{step} << c * kElementBits;
     }
-    for (int bit = 0; bit < 4 / ElementBytes * kPixelBits; bit += kPixelBits, pixel += growth) {
-      words[bit / 64] |= pixel << bit % 64;
-      if (bit % 64 + kPixelBits > 64) words[bit / 64 + 1] |= pixel >> (64 - bit % 64);
-    }
   }
-  __builtin_memcpy(result.at, words, 16);
+  if constexpr (kPixelBits <= 64) {
+    RNX_UNROLL
+    for (int p = 0; p < Pixels; ++p, pixel += growth) put(pixel, kPixelBits, p * kPixelBits);
+  }
+  // One store a chunk, for kernels load it as a whole: a load that spans two stores waits for both.
+  using Chunk = u64 __attribute__((vector_size(16)));
+  RNX_UNROLL
+  for (int i = 0; i < (Pixels * kPixelBits + 127) / 128; ++i) {
+    const Chunk chunk = {words[2 * i], words[2 * i + 1]};
+    __builtin_memcpy(result.at + 16 * i, &chunk, 16);
+  }
 }
 
 struct ChannelCall {
@@ -81,7 +91,7 @@ struct ChannelCall {
   int elementBytes;
   const Route* route;
   const Positions* positions;
-  const u8* src[4];  // the image, or its planes
+  const u8* src[4];  // the image, or its planes; of the four, what the route has none of stays unset
   s64 srcStep;
   u8* dst[4];
   s64 dstStep;

@@ -38,17 +38,10 @@ enum class Order { kPixels, kToPlanes, kFromPlanes };
 // kChunk / elementBytes without a division.
 int elementsOfChunk(const ChannelCall& call) { return kChunk >> (call.elementBytes >> 1); }
 
-// Pixels of four channels on both sides are whole in every chunk: a group is one chunk of them.
-template <int In, int Out>
-int groupPixels(const ChannelCall& call) {
-  const bool fours = In <= 1 && Out == 1 && call.route->dstChannels == 4;
-  return elementsOfChunk(call) / (fours ? 4 : 1);
-}
-
 template <int In, int Out, Order O, bool Keeps>
 class Mover {
 public:
-  static constexpr bool kOneChunk = In <= 1 && Out == 1;
+  static constexpr bool kOneChunk = false;
 
   explicit Mover(const ChannelCall& call) : call_(call) {
     const auto value = everyGroup(loadChunk(call.value));
@@ -194,10 +187,11 @@ void moveLastElement(const ChannelCall& call, s64 y) {
   }
 }
 
+// Places in a row are counted in pixels, or in units of which a pixel has some.
 template <class Rows>
-RNX_INLINE void moveRows(const ChannelCall& call, int group) {
+RNX_INLINE void moveRows(const ChannelCall& call, int group, s64 unitsOfPixel = 1) {
   // Behind a channel pointer the last pixel of a row ends with the channel: it is moved alone.
-  const s64 whole = call.route->channelPointer ? call.width - 1 : call.width;
+  const s64 whole = (call.route->channelPointer ? call.width - 1 : call.width) * unitsOfPixel;
   if (call.walk == core::Walk::kInOrder || whole < group) {
     for (s64 y = 0; y < call.height; ++y) movePixels(call, y, 0, call.width);
     return;
@@ -211,20 +205,21 @@ RNX_INLINE void moveRows(const ChannelCall& call, int group) {
     } else {
       forEachGroup(whole, group, rows);
     }
-    if (whole < call.width) moveLastElement(call, y);
+    if (call.route->channelPointer) moveLastElement(call, y);
   }
   if (stream) endStream();
 }
 
-template <int In, int Out, Order O, bool Keeps>
+// Rows of chunks of every channel.
+template <class Rows>
 void move(const ChannelCall& call) {
-  moveRows<Mover<In, Out, O, Keeps>>(call, groupPixels<In, Out>(call));
+  moveRows<Rows>(call, elementsOfChunk(call));
 }
 
-// The same for rows of chunks of every channel.
-template <class Rows>
-void moveBy(const ChannelCall& call) {
-  moveRows<Rows>(call, elementsOfChunk(call));
+// Rows of chunks of whole pixels of four channels.
+template <bool HasSource, bool Keeps>
+void moveFours(const ChannelCall& call) {
+  moveRows<WithinFour<HasSource, Keeps>>(call, kChunk, 4 * call.elementBytes);
 }
 
 }  // namespace
@@ -232,25 +227,25 @@ void moveBy(const ChannelCall& call) {
 namespace RNX_WIDTH {
 
 constinit const ChannelKernels channelKernels = {
-    .split3 = move<3, 3, Order::kToPlanes, false>,
-    .split4 = moveBy<FourPlanes<true>>,
-    .join3 = move<3, 3, Order::kFromPlanes, false>,
-    .join4 = moveBy<FourPlanes<false>>,
-    .extract3 = move<3, 1, Order::kPixels, false>,
-    .extract4 = moveBy<ExtractOfFour>,
-    .insert3Keep = moveBy<Spread<3, true>>,
-    .insert4Keep = moveBy<Spread<4, true>>,
-    .spread3 = moveBy<Spread<3, false>>,
-    .spread4 = moveBy<Spread<4, false>>,
-    .within3 = move<3, 3, Order::kPixels, false>,
-    .within4 = move<1, 1, Order::kPixels, false>,
-    .within3Keep = move<3, 3, Order::kPixels, true>,
-    .within4Keep = move<1, 1, Order::kPixels, true>,
-    .widen = moveBy<Widen<false>>,
-    .widenKeep = moveBy<Widen<true>>,
-    .narrow = moveBy<Narrow>,
-    .value3Keep = move<0, 3, Order::kPixels, true>,
-    .value4Keep = move<0, 1, Order::kPixels, true>,
+    .split3 = move<Mover<3, 3, Order::kToPlanes, false>>,
+    .split4 = move<FourPlanes<true>>,
+    .join3 = move<Mover<3, 3, Order::kFromPlanes, false>>,
+    .join4 = move<FourPlanes<false>>,
+    .extract3 = move<Mover<3, 1, Order::kPixels, false>>,
+    .extract4 = move<ExtractOfFour>,
+    .insert3Keep = move<Spread<3, true>>,
+    .insert4Keep = move<Spread<4, true>>,
+    .spread3 = move<Spread<3, false>>,
+    .spread4 = move<Spread<4, false>>,
+    .within3 = move<Mover<3, 3, Order::kPixels, false>>,
+    .within4 = moveFours<true, false>,
+    .within3Keep = move<Mover<3, 3, Order::kPixels, true>>,
+    .within4Keep = moveFours<true, true>,
+    .widen = move<Widen<false>>,
+    .widenKeep = move<Widen<true>>,
+    .narrow = move<Narrow>,
+    .value3Keep = move<Mover<0, 3, Order::kPixels, true>>,
+    .value4Keep = moveFours<false, true>,
 };
 
 }  // namespace RNX_WIDTH

@@ -8,6 +8,8 @@
 
 namespace rnx::data {
 
+using KernelOf = ChannelKernel ChannelKernels::*;
+
 // ---- The fixed routes, under the names of the layout pairs ----
 
 inline constexpr Route kToPlanes3 = {3, false, 3, true, {0, 1, 2}};
@@ -17,64 +19,64 @@ inline constexpr Route kFromPlanes4 = {4, true, 4, false, {0, 1, 2, 3}};
 
 struct C3P3 {
   static constexpr Route kRoute = kToPlanes3;
-  static ChannelKernel kernel(const ChannelKernels& k) { return k.split3; }
+  static constexpr KernelOf kKernel = &ChannelKernels::split3;
 };
 struct C4P4 {
   static constexpr Route kRoute = kToPlanes4;
-  static ChannelKernel kernel(const ChannelKernels& k) { return k.split4; }
+  static constexpr KernelOf kKernel = &ChannelKernels::split4;
 };
 struct P3C3 {
   static constexpr Route kRoute = kFromPlanes3;
-  static ChannelKernel kernel(const ChannelKernels& k) { return k.join3; }
+  static constexpr KernelOf kKernel = &ChannelKernels::join3;
 };
 struct P4C4 {
   static constexpr Route kRoute = kFromPlanes4;
-  static ChannelKernel kernel(const ChannelKernels& k) { return k.join4; }
+  static constexpr KernelOf kKernel = &ChannelKernels::join4;
 };
 // Channel pointers: the selected channel is channel 0.
 struct C3C {
   static constexpr Route kRoute = {3, false, 3, false, {0, kKeep, kKeep}, true};
   static constexpr Route kSetRoute = {0, false, 3, false, {kValue, kKeep, kKeep}, true};
-  static ChannelKernel kernel(const ChannelKernels& k) { return k.within3Keep; }
-  static ChannelKernel setKernel(const ChannelKernels& k) { return k.value3Keep; }
+  static constexpr KernelOf kKernel = &ChannelKernels::within3Keep;
+  static constexpr KernelOf kSetKernel = &ChannelKernels::value3Keep;
 };
 struct C4C {
   static constexpr Route kRoute = {4, false, 4, false, {0, kKeep, kKeep, kKeep}, true};
   static constexpr Route kSetRoute = {0, false, 4, false, {kValue, kKeep, kKeep, kKeep}, true};
-  static ChannelKernel kernel(const ChannelKernels& k) { return k.within4Keep; }
-  static ChannelKernel setKernel(const ChannelKernels& k) { return k.value4Keep; }
+  static constexpr KernelOf kKernel = &ChannelKernels::within4Keep;
+  static constexpr KernelOf kSetKernel = &ChannelKernels::value4Keep;
 };
 struct C3C1 {
   static constexpr Route kRoute = {3, false, 1, false, {0}, true};
-  static ChannelKernel kernel(const ChannelKernels& k) { return k.extract3; }
+  static constexpr KernelOf kKernel = &ChannelKernels::extract3;
 };
 struct C4C1 {
   static constexpr Route kRoute = {4, false, 1, false, {0}, true};
-  static ChannelKernel kernel(const ChannelKernels& k) { return k.extract4; }
+  static constexpr KernelOf kKernel = &ChannelKernels::extract4;
 };
 struct C1C3 {
   static constexpr Route kRoute = {1, false, 3, false, {0, kKeep, kKeep}, true};
-  static ChannelKernel kernel(const ChannelKernels& k) { return k.insert3Keep; }
+  static constexpr KernelOf kKernel = &ChannelKernels::insert3Keep;
 };
 struct C1C4 {
   static constexpr Route kRoute = {1, false, 4, false, {0, kKeep, kKeep, kKeep}, true};
-  static ChannelKernel kernel(const ChannelKernels& k) { return k.insert4Keep; }
+  static constexpr KernelOf kKernel = &ChannelKernels::insert4Keep;
 };
 struct C3AC4 {
   static constexpr Route kRoute = {3, false, 4, false, {0, 1, 2, kKeep}};
-  static ChannelKernel kernel(const ChannelKernels& k) { return k.widenKeep; }
+  static constexpr KernelOf kKernel = &ChannelKernels::widenKeep;
 };
 struct AC4C3 {
   static constexpr Route kRoute = {4, false, 3, false, {0, 1, 2}};
-  static ChannelKernel kernel(const ChannelKernels& k) { return k.narrow; }
+  static constexpr KernelOf kKernel = &ChannelKernels::narrow;
 };
 struct DupC1C3 {
   static constexpr Route kRoute = {1, false, 3, false, {0, 0, 0}};
-  static ChannelKernel kernel(const ChannelKernels& k) { return k.spread3; }
+  static constexpr KernelOf kKernel = &ChannelKernels::spread3;
 };
 struct DupC1C4 {
   static constexpr Route kRoute = {1, false, 4, false, {0, 0, 0, 0}};
-  static ChannelKernel kernel(const ChannelKernels& k) { return k.spread4; }
+  static constexpr KernelOf kKernel = &ChannelKernels::spread4;
 };
 
 template <class T, const Route& R>
@@ -97,9 +99,9 @@ struct Side {
 };
 
 // Merges contiguous rows, and finds out whether the images overlap: the sources with the results, or the results with
-// each other.
-inline void planMove(ChannelCall& call) {
-  const Route& route = *call.route;
+// each other. Inlined, for callers know the numbers of channels.
+RNX_INLINE void planMove(const Route& route, ChannelCall& call) {
+  call.route = &route;
   const Side src(route.srcChannels, route.srcPlanar, route.channelPointer, call.elementBytes, call.width);
   const Side dst(route.dstChannels, route.dstPlanar, route.channelPointer, call.elementBytes, call.width);
   const auto image = [](const u8* p, s64 step, s64 span) {
@@ -132,8 +134,8 @@ inline void planMove(ChannelCall& call) {
   }
 }
 
-inline const ChannelKernels& channelKernels(const ChannelCall& call) {
-  const s64 pixelBytes = s64{call.elementBytes} * (call.route->srcChannels + call.route->dstChannels);
+inline const ChannelKernels& channelKernels(const Route& route, const ChannelCall& call) {
+  const s64 pixelBytes = s64{call.elementBytes} * (route.srcChannels + route.dstChannels);
   return core::wideRows(call.width * call.height * pixelBytes) ? v256::channelKernels : v128::channelKernels;
 }
 
@@ -142,21 +144,28 @@ void repeatValue(T value, u8 (&all)[16]) {
   for (size_t i = 0; i < sizeof(all); i += sizeof(T)) __builtin_memcpy(all + i, &value, sizeof(T));
 }
 
+// The images of the call are set.
+template <class T>
+RNX_INLINE void move(ChannelCall& call, const Route& route, const Positions& positions, KernelOf kernel, int srcStep,
+                     int dstStep, RnxiSize roi, T value = {}) {
+  call.width = roi.width;
+  call.height = roi.height;
+  call.elementBytes = sizeof(T);
+  call.positions = &positions;
+  call.srcStep = srcStep;
+  call.dstStep = dstStep;
+  repeatValue(value, call.value);
+  planMove(route, call);
+  (channelKernels(route, call).*kernel)(call);
+}
+
 // ---- Copies ----
 
 template <class T, class Layouts>
 RnxStatus moveFixed(ChannelCall& call, int srcStep, int dstStep, RnxiSize roi) {
   if (core::empty(roi)) return rnxStatusBadSize;
 
-  call.width = roi.width;
-  call.height = roi.height;
-  call.elementBytes = sizeof(T);
-  call.route = &Layouts::kRoute;
-  call.positions = &kPositions<T, Layouts::kRoute>;
-  call.srcStep = srcStep;
-  call.dstStep = dstStep;
-  planMove(call);
-  Layouts::kernel(channelKernels(call))(call);
+  move<T>(call, Layouts::kRoute, kPositions<T, Layouts::kRoute>, Layouts::kKernel, srcStep, dstStep, roi);
   return rnxStatusNoError;
 }
 
@@ -164,7 +173,7 @@ template <class T, class Layouts>
 RnxStatus copyChannels(const T* src, int srcStep, T* dst, int dstStep, RnxiSize roi) {
   if (core::anyNull(src, dst)) return rnxStatusNullPointer;
 
-  ChannelCall call = {};
+  ChannelCall call;
   call.src[0] = bytes(src);
   call.dst[0] = bytes(dst);
   return moveFixed<T, Layouts>(call, srcStep, dstStep, roi);
@@ -175,7 +184,7 @@ RnxStatus copyToPlanes(const T* src, int srcStep, T* const* dst, int dstStep, Rn
   constexpr int kPlanes = Layouts::kRoute.dstChannels;
   if (core::anyNull(src, dst) || std::find(dst, dst + kPlanes, nullptr) != dst + kPlanes) return rnxStatusNullPointer;
 
-  ChannelCall call = {};
+  ChannelCall call;
   call.src[0] = bytes(src);
   for (int k = 0; k < kPlanes; ++k) call.dst[k] = bytes(dst[k]);
   return moveFixed<T, Layouts>(call, srcStep, dstStep, roi);
@@ -186,7 +195,7 @@ RnxStatus copyFromPlanes(const T* const* src, int srcStep, T* dst, int dstStep, 
   constexpr int kPlanes = Layouts::kRoute.srcChannels;
   if (core::anyNull(src, dst) || std::find(src, src + kPlanes, nullptr) != src + kPlanes) return rnxStatusNullPointer;
 
-  ChannelCall call = {};
+  ChannelCall call;
   for (int k = 0; k < kPlanes; ++k) call.src[k] = bytes(src[k]);
   call.dst[0] = bytes(dst);
   return moveFixed<T, Layouts>(call, srcStep, dstStep, roi);
@@ -197,20 +206,9 @@ RnxStatus setChannel(T value, T* dst, int dstStep, RnxiSize roi) {
   if (core::anyNull(dst)) return rnxStatusNullPointer;
   if (core::empty(roi)) return rnxStatusBadSize;
 
-  ChannelCall call = {.width = roi.width,
-                      .height = roi.height,
-                      .walk = core::Walk::kVectors,
-                      .elementBytes = sizeof(T),
-                      .route = &Layouts::kSetRoute,
-                      .positions = &kPositions<T, Layouts::kSetRoute>,
-                      .src = {},
-                      .srcStep = 0,
-                      .dst = {bytes(dst)},
-                      .dstStep = dstStep,
-                      .value = {}};
-  repeatValue(value, call.value);
-  planMove(call);
-  Layouts::setKernel(channelKernels(call))(call);
+  ChannelCall call;
+  call.dst[0] = bytes(dst);
+  move(call, Layouts::kSetRoute, kPositions<T, Layouts::kSetRoute>, Layouts::kSetKernel, 0, dstStep, roi, value);
   return rnxStatusNoError;
 }
 
@@ -218,41 +216,34 @@ RnxStatus setChannel(T value, T* dst, int dstStep, RnxiSize roi) {
 
 // Compared as unsigned, so that a negative entry is out of range too.
 template <int N>
-bool validOrder(const int* order, unsigned limit) {
+RNX_INLINE bool validOrder(const int* order, unsigned limit) {
   return std::all_of(order, order + N, [limit](int entry) { return static_cast<unsigned>(entry) < limit; });
 }
 
 template <class T>
-void reorder(const Route& route, ChannelKernel ChannelKernels::*kernel, const T* src, int srcStep, T* dst, int dstStep,
-             RnxiSize roi, T value = {}) {
+RNX_INLINE void reorder(const Route& route, KernelOf kernel, const T* src, int srcStep, T* dst, int dstStep,
+                        RnxiSize roi, T value = {}) {
   Positions at;
+  // With four channels on one side or both, chunks hold whole pixels and are all alike: the first one is enough.
+  constexpr int kElements = 16 / sizeof(T);
   if (route.dstChannels == 4) {
-    firstPositions<sizeof(T), 4>(route, at);
+    firstPositions<sizeof(T), 4, kElements / 4>(route, at);
   } else if (route.srcChannels == 4) {
-    firstPositions<sizeof(T), 3>(route, at);
+    firstPositions<sizeof(T), 3, kElements / 4>(route, at);
   } else {
-    at = positions(route, sizeof(T));
+    firstPositions<sizeof(T), 3, kElements>(route, at);
   }
-  ChannelCall call = {.width = roi.width,
-                      .height = roi.height,
-                      .walk = core::Walk::kVectors,
-                      .elementBytes = sizeof(T),
-                      .route = &route,
-                      .positions = &at,
-                      .src = {bytes(src)},
-                      .srcStep = srcStep,
-                      .dst = {bytes(dst)},
-                      .dstStep = dstStep,
-                      .value = {}};
-  repeatValue(value, call.value);
-  planMove(call);
-  (channelKernels(call).*kernel)(call);
+  ChannelCall call;
+  call.src[0] = bytes(src);
+  call.dst[0] = bytes(dst);
+  move(call, route, at, kernel, srcStep, dstStep, roi, value);
 }
 
 // dst and src have as many channels. The fourth one of AC4 keeps its value.
 template <class L, class T>
-void reorderWithin(const T* src, int srcStep, T* dst, int dstStep, RnxiSize roi, const int* order) {
+RNX_INLINE void reorderWithin(const T* src, int srcStep, T* dst, int dstStep, RnxiSize roi, const int* order) {
   Route route = {L::kChannels, false, L::kChannels, false, {0, 0, 0, kKeep}};
+  RNX_UNROLL
   for (int i = 0; i < L::kUsed; ++i) route.from[i] = static_cast<s8>(order[i]);
   constexpr auto kKernel = L::kChannels == 3    ? &ChannelKernels::within3
                            : core::kHasAlpha<L> ? &ChannelKernels::within4Keep
@@ -283,6 +274,7 @@ RnxStatus swapFourToThree(const T* src, int srcStep, T* dst, int dstStep, RnxiSi
   if (!validOrder<3>(order, 4)) return rnxStatusBadChannelOrder;
 
   Route route = {4, false, 3, false, {}};
+  RNX_UNROLL
   for (int i = 0; i < 3; ++i) route.from[i] = static_cast<s8>(order[i]);
   reorder(route, &ChannelKernels::narrow, src, srcStep, dst, dstStep, roi);
   return rnxStatusNoError;
@@ -296,6 +288,7 @@ RnxStatus swapThreeToFour(const T* src, int srcStep, T* dst, int dstStep, RnxiSi
 
   Route route = {3, false, 4, false, {}};
   bool keeps = false;
+  RNX_UNROLL
   for (int i = 0; i < 4; ++i) {
     route.from[i] = order[i] < 3 ? static_cast<s8>(order[i]) : order[i] == 3 ? kValue : kKeep;
     keeps = keeps || order[i] > 3;

@@ -7,17 +7,8 @@
 
 #include <type_traits>
 
+#include "core/compiler.h"
 #include "core/types.h"
-
-#define RNX_INLINE inline __attribute__((always_inline))
-
-// In front of a loop over the registers of an array: only an unrolled one keeps them in registers.
-#ifdef __clang__
-#define RNX_UNROLL _Pragma("unroll")
-#else
-#define RNX_UNROLL _Pragma("GCC unroll 16")
-#endif
-#define RNX_INLINE_LAMBDA __attribute__((always_inline))
 
 // Intrinsics of the two widths share their names behind the prefix.
 #if RNX_VECTOR_BYTES == 32
