@@ -80,17 +80,33 @@ struct Tile<16, Keeps> {
   static RNX_INLINE void move(const Image image, s64 x, s64 y, s64 apart, s64) {
     const u8* src = core::at(image.src, y * image.srcStep + x * 16);
     u8* dst = core::at(image.dst, x * image.dstStep + y * 16);
+    Vec<u8> v[kColumns][2];  // the destination's lines of 64 bytes, or halves of them
     RNX_UNROLL
-    for (int c = 0; c < kColumns; ++c, src += 16, dst = core::at(dst, image.dstStep)) {
+    for (int g = 0; g < kGroups; ++g) {
+      const u8* first = core::at(src, g * apart * image.srcStep);
+      const u8* second = core::at(first, image.srcStep);
+#if RNX_VECTOR_BYTES == 32
       RNX_UNROLL
-      for (int g = 0; g < kGroups; ++g) {
-        RNX_UNROLL
-        for (int r = 0; r < kRows; r += kGroups) {
-          u8* to = dst + (g * apart + r) * 16;
-          Vec<u8> v = loadChunks(core::at(src, g * apart * image.srcStep + r * image.srcStep), image.srcStep);
-          if (Keeps) v = select(Mask<u8>::load(kAlphaBytes<16>.at), Vec<u8>::load(to), v);
-          v.store(to);
-        }
+      for (int c = 0; c < kColumns; c += 2) {
+        v[c][g] = Vec<u8>::load(first + c * 16);
+        v[c + 1][g] = Vec<u8>::load(second + c * 16);
+        transposeSixteens(v[c][g], v[c + 1][g]);
+      }
+#else
+      RNX_UNROLL
+      for (int c = 0; c < kColumns; ++c) {
+        v[c][0] = Vec<u8>::load(first + c * 16);
+        v[c][1] = Vec<u8>::load(second + c * 16);
+      }
+#endif
+    }
+    RNX_UNROLL
+    for (int c = 0; c < kColumns; ++c, dst = core::at(dst, image.dstStep)) {
+      RNX_UNROLL
+      for (int i = 0; i < 2; ++i) {
+        u8* to = dst + (kGroups == 2 ? i * apart : i) * 16;
+        if (Keeps) v[c][i] = select(Mask<u8>::load(kAlphaBytes<16>.at), Vec<u8>::load(to), v[c][i]);
+        v[c][i].store(to);
       }
     }
   }
@@ -206,7 +222,7 @@ RNX_INLINE void fetchRows(const u8* image, s64 step, s64 x0, s64 x1, s64 y0, s64
 // neighbours. The image is a copy, which no store can change: nothing is loaded again. Rows further down, in front of
 // row `fetched`, are fetched ahead.
 template <int P, bool Keeps, bool Fetches = false>
-void transposeBlock(const Image image, s64 x0, s64 x1, s64 y0, s64 y1, s64 width, s64 fetched = 0) {
+RNX_INLINE void transposeBlock(const Image image, s64 x0, s64 x1, s64 y0, s64 y1, s64 width, s64 fetched = 0) {
   using Tile = Tile<P, Keeps>;
   constexpr s64 kSpan = Tile::kRows * kGroups;
   // A chunk of 12 bytes of pixels needs 16 bytes of a row.
@@ -231,22 +247,28 @@ void transposeBlock(const Image image, s64 x0, s64 x1, s64 y0, s64 y1, s64 width
   }
 }
 
-template <int P, bool Keeps>
-void transpose(const TransposeCall& call) {
+template <int P, bool Keeps, bool Fetches>
+void transposeBlocks(const TransposeCall& call) {
   const Image image = {call.src, call.srcStep, call.dst, call.dstStep};
-  if (call.inOrder) return pixelByPixel<P, Keeps>(image, 0, call.width, 0, call.height);
-  const s64 columns = blockColumns<P>(call.srcStep);
-  const auto block =
-      inCaches(call.width * call.height * P) ? transposeBlock<P, Keeps, false> : transposeBlock<P, Keeps, true>;
+  const s64 width = call.width, height = call.height, columns = blockColumns<P>(call.srcStep);
   // A rest shorter than a block joins the last one.
   const auto end = [](s64 start, s64 n, s64 size) { return n - start < 2 * size ? n : start + size; };
-  for (s64 x = 0, nextX = 0; x < call.width; x = nextX) {
-    nextX = end(x, call.width, columns);
-    for (s64 y = 0, nextY = 0; y < call.height; y = nextY) {
-      nextY = end(y, call.height, kBlockRows);
-      block(image, x, nextX, y, nextY, call.width, call.height);
+  for (s64 x = 0, nextX = 0; x < width; x = nextX) {
+    nextX = end(x, width, columns);
+    for (s64 y = 0, nextY = 0; y < height; y = nextY) {
+      nextY = end(y, height, kBlockRows);
+      transposeBlock<P, Keeps, Fetches>(image, x, nextX, y, nextY, width, height);
     }
   }
+}
+
+template <int P, bool Keeps>
+void transpose(const TransposeCall& call) {
+  if (call.inOrder) {
+    return pixelByPixel<P, Keeps>({call.src, call.srcStep, call.dst, call.dstStep}, 0, call.width, 0, call.height);
+  }
+  if (inCaches(call.width * call.height * P)) return transposeBlocks<P, Keeps, false>(call);
+  transposeBlocks<P, Keeps, true>(call);
 }
 
 // Pixels on the side of a square in place.

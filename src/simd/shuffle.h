@@ -325,6 +325,13 @@ bool sameAlignment(Byte* const* pointers, int n) {
 }
 
 #if RNX_VECTOR_BYTES == 32
+// Two rows of two values of 16 bytes.
+RNX_INLINE void transposeSixteens(Vec<u8>& a, Vec<u8>& b) {
+  const Int first = a.bits(), second = b.bits();
+  a = Vec<u8>::of(_mm256_permute2x128_si256(first, second, 0x20));
+  b = Vec<u8>::of(_mm256_permute2x128_si256(first, second, 0x31));
+}
+
 // Four rows of four values of 8 bytes.
 RNX_INLINE void transposeEights(Vec<u8> (&v)[4]) {
   const __m256i ab[2] = {_mm256_unpacklo_epi64(v[0].bits(), v[1].bits()),
