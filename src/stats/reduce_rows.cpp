@@ -13,6 +13,7 @@ using namespace simd;
 RNX_INLINE f64 elementAsDouble(const f32* p, s64 i) { return f64{simd::loadOne(p + i)}; }
 
 struct OfImage {
+  static constexpr bool kTwoImages = false;
   template <class T>
   static RNX_INLINE auto magnitude(Vec<T> v) {
     if constexpr (std::is_same_v<T, s16>) {
@@ -28,6 +29,7 @@ struct OfImage {
 };
 
 struct OfDifference {
+  static constexpr bool kTwoImages = true;
   template <class T>
   static RNX_INLINE auto magnitude(Vec<T> a, Vec<T> b) {
     if constexpr (std::is_same_v<T, s16>) {
@@ -194,9 +196,14 @@ struct ExactSquares : ExactSum {
   static RNX_INLINE Vec<f64> term(Vec<f64> v) { return v * v; }
 };
 
+// Of images that come from memory so many rows side by side are more than the processor foresees: lines, counted in
+// elements, are fetched ahead.
+constexpr s64 kLine = 16, kAhead = 8 * kLine;
+inline bool comesFromMemory(s64 bytes) { return bytes >= 0x1000000; }
+
 // kVectors vectors of rows side by side, as many as keep the adders busy: each row has its own totals, of the even and
 // of the odd pixels. With one row that is all there is, the further rows of its vector are that row again.
-template <class Op, class Of, int C, int kVectors, bool kOneRow>
+template <class Op, class Of, int C, int kVectors, bool kOneRow, bool kFetches = false>
 void addRowsExactly(const ReduceCall<f32>& call, s64 y, f64* totals) {
   constexpr int kRows = kOneRow ? 1 : kVectors * kRowsOfPairs;
   const f32 *first = core::at(call.first, y * call.firstStep), *second = core::at(call.second, y * call.secondStep);
@@ -205,6 +212,12 @@ void addRowsExactly(const ReduceCall<f32>& call, s64 y, f64* totals) {
   s64 i = 0;
   constexpr int kStep = C == 1 ? 4 : 2 * C;  // elements
   for (; i + kStep <= call.width; i += kStep) {
+    if (kFetches && i % kLine == 0) {
+      for (int r = 0; r < kRows; ++r) {
+        __builtin_prefetch(core::at(first, r * firstStep, i + kAhead));
+        if (Of::kTwoImages) __builtin_prefetch(core::at(second, r * secondStep, i + kAhead));
+      }
+    }
     RNX_UNROLL
     for (int r = 0; r < kVectors; ++r) {
       const f32* a = core::at(first, r * kRowsOfPairs * firstStep, i);
@@ -244,7 +257,10 @@ void reduceExactly(const ReduceCall<f32>& call) {
   constexpr int kVectors = C == 1 ? 4 : 1, kRows = kVectors * kRowsOfPairs;
   f64 totals[C] = {};
   s64 y = 0;
-  for (; y + kRows <= call.height; y += kRows) addRowsExactly<Op, Of, C, kVectors, false>(call, y, totals);
+  const s64 bytes = call.width * call.height * static_cast<s64>(sizeof(f32)) * (Of::kTwoImages ? 2 : 1);
+  const auto addRows = kVectors > 1 && comesFromMemory(bytes) ? addRowsExactly<Op, Of, C, kVectors, false, true>
+                                                              : addRowsExactly<Op, Of, C, kVectors, false, false>;
+  for (; y + kRows <= call.height; y += kRows) addRows(call, y, totals);
   for (; y < call.height; ++y) addRowsExactly<Op, Of, C, 1, true>(call, y, totals);
   for (int c = 0; c < C; ++c) call.results[c] = totals[c];
 }
