@@ -1,4 +1,6 @@
-// Row kernels of the conversions between gray and one-bit images: 64 pixels, a word of bits, at a time.
+// Row kernels of the conversions between gray and one-bit images.
+#include <limits>
+
 #include "data/bits_kernels.h"
 #include "simd/bits.h"
 
@@ -6,8 +8,6 @@ namespace rnx::data {
 namespace {
 
 using namespace simd;
-
-constexpr int kWord = 64;
 
 // The n lowest bytes of a word, n at most 8, and where they come from or go to.
 u64 loadBytes(const u8* src, int n) {
@@ -32,77 +32,90 @@ void storeBytes(u8* dst, u64 bytes, int n) {
   n >= 8 ? two(u64{}) : n >= 4 ? two(u32{}) : n >= 2 ? two(u16{}) : n == 1 ? two(u8{}) : void();
 }
 
+// Bits [first, first + n) of dst, first below 8 and both together up to 64; the others in their bytes stay.
+void mergeBits(u8* dst, u64 bits, int first, int n) {
+  const int bytes = (first + n + 7) / 8;
+  const u64 own = ((u64{1} << n) - 1) << first;
+  storeBytes(dst, (loadBytes(dst, bytes) & ~own) | bits << first, bytes);
+}
+
+// Lanes whose sign bits say whether their elements are above the threshold.
+template <class T>
+class Above {
+public:
+  explicit Above(T threshold) : threshold_(Vec<T>::splat(threshold)) {}
+  RNX_INLINE Mask<T> operator()(Vec<T> v) const { return greater(v, threshold_); }
+
+private:
+  Vec<T> threshold_;
+};
+
+// The average with most - 1 - threshold, rounded up, reaches the sign bit from threshold + 1 on. Nothing is above the
+// most: as if all elements were 0.
+template <class T>
+requires std::is_unsigned_v<T>
+class Above<T> {
+public:
+  explicit Above(T threshold)
+      : complement_(Vec<T>::splat(static_cast<T>(std::max(kMost - 1 - threshold, 0)))),
+        kept_(Vec<T>::splat(threshold == kMost ? 0 : kMost)) {}
+  RNX_INLINE Mask<T> operator()(Vec<T> v) const {
+    return average(v & kept_, complement_).template as<typename MaskOf<sizeof(T)>::Type>();
+  }
+
+private:
+  static constexpr int kMost = std::numeric_limits<T>::max();
+
+  Vec<T> complement_, kept_;
+};
+
+// Blocks of kBytes pixels, the bits of a vector of bytes.
 template <class T>
 class ToBits {
 public:
-  explicit ToBits(T threshold) : threshold_(Vec<T>::splat(threshold)) {}
+  explicit ToBits(T threshold) : above_(threshold) {}
 
-  // The bits before the row's first one go through the accumulator like those of pixels.
+  // Up to the first whole byte of bits, then by blocks; the pixels at the start and at the end are in a block too.
   void row(const T* src, u8* dst, s64 n, int offset) const {
+    if (n < kBytes) return mergeBits(dst, part(src, static_cast<int>(n)), offset, static_cast<int>(n));
+
     const ToBits own = *this;  // in registers, which no store to the result can change
-    const u32 outside = (1u << offset) - 1;
-    u64 before = *dst & outside;
-    if (offset == 0) {
-      for (; n >= kWord; n -= kWord, src += kWord, dst += kWord / 8) put(dst, own.word(src));
-    } else {
-      for (; n >= kWord; n -= kWord, src += kWord, dst += kWord / 8) {
-        const u64 bits = own.word(src);
-        put(dst, bits << offset | before);
-        before = bits >> (kWord - offset);
-      }
+    if (offset > 0) {
+      const u32 outside = (1u << offset) - 1;
+      *dst = static_cast<u8>((*dst & outside) | own.block(src) << offset);
+      src += 8 - offset;
+      n -= 8 - offset;
+      ++dst;
     }
-    if (n == 0) {
-      if (offset > 0) *dst = static_cast<u8>((*dst & ~outside) | before);
-      return;
+    for (; n >= 2 * kBytes; n -= 2 * kBytes, src += 2 * kBytes, dst += 2 * kBytes / 8) {
+      put(dst, own.block(src));
+      put(dst + kBytes / 8, own.block(src + kBytes));
     }
-    const int rest = static_cast<int>(n), count = offset + rest;  // up to 70
-    const u64 bits = part(src, rest);
-    const int whole = std::min(count, kWord) / 8;
-    storeBytes(dst, bits << offset | before, whole);
-    if (count % 8 == 0) return;
-    const u64 last = whole < 8 ? (bits << offset | before) >> (8 * whole) : bits >> (kWord - offset);
-    dst[whole] = static_cast<u8>((dst[whole] & ~((1u << count % 8) - 1)) | last);
+    for (; n >= kBytes; n -= kBytes, src += kBytes, dst += kBytes / 8) put(dst, own.block(src));
+    if (n > 0) mergeBits(dst, own.block(src - (kBytes - n)) >> (kBytes - n), 0, static_cast<int>(n));
   }
 
 private:
   static constexpr int kLanes = Vec<T>::kLanes, kSize = sizeof(T);
 
-  static RNX_INLINE void put(u8* dst, u64 bits) { __builtin_memcpy(dst, &bits, sizeof(bits)); }
+  static RNX_INLINE void put(u8* dst, u32 bits) { __builtin_memcpy(dst, &bits, kBytes / 8); }
 
-  // Unsigned elements are above the threshold where the larger of both is not the threshold.
-  static constexpr bool kInverse = std::is_unsigned_v<T>;
-  RNX_INLINE Mask<T> compare(Vec<T> v) const {
-    if constexpr (kInverse) {
-      return equal(max(v, threshold_), threshold_);
-    } else {
-      return greater(v, threshold_);
-    }
-  }
-
-  // Of kBytes pixels.
-  RNX_INLINE u64 block(const T* src) const {
+  RNX_INLINE u32 block(const T* src) const {
     Mask<T> masks[kSize];
     RNX_UNROLL
-    for (int k = 0; k < kSize; ++k) masks[k] = compare(Vec<T>::load(src + k * kLanes));
+    for (int k = 0; k < kSize; ++k) masks[k] = above_(Vec<T>::load(src + k * kLanes));
     return bitsOfMasks<T>(masks);
   }
-  RNX_INLINE u64 word(const T* src) const {
-    u64 bits = 0;
-    RNX_UNROLL
-    for (int i = 0; i < kWord; i += kBytes) bits |= block(src + i) << i;
-    return kInverse ? ~bits : bits;
-  }
-  // Of n pixels, less than a word; the bits behind them are 0.
-  u64 part(const T* src, int n) const {
-    u64 bits = 0;
+  // Of n pixels, less than a block.
+  u32 part(const T* src, int n) const {
+    u32 bits = 0;
     int i = 0;
-    for (; i + kBytes <= n; i += kBytes) bits |= block(src + i) << i;
-    for (; i + kLanes <= n; i += kLanes) bits |= u64{signBits(compare(Vec<T>::load(src + i)))} << i;
-    if (i < n) bits |= u64{joinHalves(signBits(compare(loadPart(src + i, n - i))), n - i)} << i;
-    return (kInverse ? ~bits : bits) & ((u64{1} << n) - 1);
+    for (; i + kLanes <= n; i += kLanes) bits |= signBits(above_(Vec<T>::load(src + i))) << i;
+    if (i < n) bits |= joinHalves(signBits(above_(loadPart(src + i, n - i))), n - i) << i;
+    return bits;
   }
 
-  Vec<T> threshold_;
+  Above<T> above_;
 };
 
 template <class T>
@@ -123,13 +136,14 @@ void toBits(const ToBitsCall<T>& call) {
   }
 }
 
+// Words of 64 bits.
 template <class T>
 class FromBits {
 public:
   FromBits(T low, T high) : low_(Vec<T>::splat(low)), high_(Vec<T>::splat(high)) {}
 
   void row(const u8* src, T* dst, s64 n, int offset) const {
-    const FromBits own = *this;  // as above
+    const FromBits own = *this;  // in registers
     if (offset == 0) {
       for (; n >= kWord; n -= kWord, src += kWord / 8, dst += kWord) own.word(get(src), dst);
     } else {
@@ -143,7 +157,7 @@ public:
   }
 
 private:
-  static constexpr int kLanes = Vec<T>::kLanes;
+  static constexpr int kLanes = Vec<T>::kLanes, kWord = 64;
 
   static RNX_INLINE u64 get(const u8* src) {
     u64 bits;
