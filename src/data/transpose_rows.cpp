@@ -185,11 +185,13 @@ s64 linesOfColumn(s64 step) {
 
 // A block is as wide as the pixels that fill a cache line, or three, so that lines are used up at once. Fewer rows of
 // the destination are kinder to the memory, where the lines of so many source rows stay in the cache until they are
-// used up. Blocks follow each other down the source, which is along the rows of the destination.
+// used up. Blocks follow each other down the source, which is along the rows of the destination. Of pixels of 6 bytes,
+// and of 12 in images that are fetched ahead, fewer columns are better, where the cache has places for their rows.
 constexpr s64 kBlockRows = 64;
-template <int P>
+template <int P, bool kFetched>
 s64 blockColumns(s64 srcStep) {
   if (P == 6 && linesOfColumn(srcStep) > kBlockRows / 2) return 48 / P;
+  if (P == 12 && kFetched && linesOfColumn(srcStep) > kBlockRows / 4) return 48 / P;
   return (P % 3 == 0 ? 192 : 64) / P;
 }
 
@@ -250,7 +252,7 @@ RNX_INLINE void transposeBlock(const Image image, s64 x0, s64 x1, s64 y0, s64 y1
 template <int P, bool Keeps, bool Fetches>
 void transposeBlocks(const TransposeCall& call) {
   const Image image = {call.src, call.srcStep, call.dst, call.dstStep};
-  const s64 width = call.width, height = call.height, columns = blockColumns<P>(call.srcStep);
+  const s64 width = call.width, height = call.height, columns = blockColumns<P, Fetches>(call.srcStep);
   // A rest shorter than a block joins the last one.
   const auto end = [](s64 start, s64 n, s64 size) { return n - start < 2 * size ? n : start + size; };
   for (s64 x = 0, nextX = 0; x < width; x = nextX) {
