@@ -18,6 +18,7 @@
 
 #include "core/image.h"
 #include "simd/block.h"
+#include "simd/shuffle.h"
 #include "simd/vec.h"
 
 namespace rnx::simd {
@@ -151,6 +152,21 @@ struct ImageSource {
   RNX_INLINE void nextRow() { row = core::at(row, step); }
 };
 
+// For every byte of three vectors the byte of the values it repeats, of three and of four.
+template <class T>
+struct PatternIndex {
+  alignas(kBytes) u8 ofThree[3 * kBytes], ofFour[3 * kBytes];
+  constexpr PatternIndex() : ofThree(), ofFour() {
+    constexpr int kSize = sizeof(T);
+    for (int b = 0; b < 3 * kBytes; ++b) {
+      ofThree[b] = static_cast<u8>(b / kSize % 3 * kSize + b % kSize);
+      ofFour[b] = static_cast<u8>(b / kSize % 4 * kSize + b % kSize);
+    }
+  }
+};
+template <class T>
+constexpr PatternIndex<T> kPatternIndex;
+
 // A pattern of 1, 3 or 4 values that repeats along every row. Three vectors hold whole periods of each.
 template <class T>
 class PatternSource {
@@ -160,12 +176,11 @@ public:
       for (Vec<T>& v : body_) v = Vec<T>::splat(values[0]);
       return;
     }
-    T block[kPeriod];
-    for (int i = 0; i < kPeriod; i += period) {
-      for (int k = 0; k < period; ++k) block[i + k] = values[k];
-    }
-    for (int i = 0; i < kLength; i += kPeriod) __builtin_memcpy(buffer_ + i, block, sizeof(block));
-    load(0);
+    const Vec<u8> all = everyGroup(chunkOf(values, period));
+    const u8* index = period == 3 ? kPatternIndex<T>.ofThree : kPatternIndex<T>.ofFour;
+    for (int k = 0; k < 3; ++k) body_[k] = shuffle(all, Vec<u8>::load(index + k * kBytes)).template as<T>();
+    RNX_UNROLL
+    for (int k = 0; k < kVectors; ++k) body_[k % 3].store(buffer_ + k * Vec<T>::kLanes);
   }
 
   template <int K>
@@ -180,18 +195,29 @@ public:
   RNX_INLINE void nextRow() {}
 
 private:
-  static constexpr int kPeriod = 12;                 // a multiple of every period
-  static constexpr int kRound = 3 * Vec<T>::kLanes;  // elements that three vectors hold
-  // whole periods that hold a round from any phase
-  static constexpr int kLength = (kRound + 2 * kPeriod - 2) / kPeriod * kPeriod;
+  static_assert(sizeof(T) <= 4);
+  static constexpr int kPeriod = 12;  // a multiple of every period
+  // whole vectors that hold a round from any phase
+  static constexpr int kVectors = 3 + (kPeriod - 2 + Vec<T>::kLanes) / Vec<T>::kLanes;
 
+  // By way of registers: a load of what was stored by elements would wait.
+  static RNX_INLINE __m128i chunkOf(const T* values, int period) {
+    using Bits = std::make_unsigned_t<typename MaskOf<sizeof(T)>::Type>;
+    u64 words[2] = {};
+    RNX_UNROLL
+    for (int i = 0; i < 4; ++i) {
+      const int at = i * 8 * static_cast<int>(sizeof(T));
+      if (i < 3 || period == 4) words[at / 64] |= u64{std::bit_cast<Bits>(values[i])} << at % 64;
+    }
+    return _mm_set_epi64x(static_cast<s64>(words[1]), static_cast<s64>(words[0]));
+  }
   void load(int phase) {
     for (int k = 0; k < 3; ++k) body_[k] = Vec<T>::load(buffer_ + phase + k * Vec<T>::kLanes);
   }
 
   bool periodic_;
   Vec<T> body_[3];
-  T buffer_[kLength];
+  T buffer_[kVectors * Vec<T>::kLanes];
 };
 
 // ---- Destinations ----
