@@ -362,9 +362,9 @@ public:
   }
 
 private:
+  Vec<u8> index_;
   const ChannelCall& call_;
   s64 elementBytes_;
-  Vec<u8> index_;
   const u8* planes_[4];  // the side that is written was writable
   const u8* pixels_;
 };

@@ -112,10 +112,10 @@ private:
 
   RNX_INLINE u8* dst(s64 x, int j) const { return (kResults > 1 ? dst_[j] : dst_[0] + j * kChunk) + x * dstPixel_; }
 
-  const ChannelCall& call_;
   Vec<u8> index_[Out][In + 1];
   Mask<u8> keep_[Out];
   Vec<u8> value_[Out];
+  const ChannelCall& call_;
   const u8* src_[kSources];
   u8* dst_[kResults];
   s64 srcPixel_, dstPixel_;

@@ -52,7 +52,7 @@ RNX_INLINE Vec<T> loadPart(const T* p, int n) {
       v = _mm_shuffle_epi32(_mm_unpacklo_epi16(_mm_loadu_si16(first), _mm_loadu_si16(last)), 0);
       break;
     default:
-      v = _mm_set1_epi8(*first);
+      v = _mm_set1_epi8(*first);  // NOLINT(clang-analyzer-core.CallAndMessage): it loses sight of buffers
       break;
   }
 #if RNX_VECTOR_BYTES == 32
