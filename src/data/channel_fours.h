@@ -285,7 +285,8 @@ private:
 
 // Four channels between pixels and planes: the squares of 4-byte words in four chunks are transposed, and the elements
 // of a channel are brought together in the words before, or taken apart after that.
-template <bool ToPlanes>
+// Pixels beyond the second cache are fetched ahead: beside four planes that are written the processor is late to do so.
+template <bool ToPlanes, bool Fetches = false>
 class FourPlanes {
 public:
   static constexpr bool kOneChunk = false;
@@ -314,6 +315,7 @@ public:
     for (int k = 0; k < 4; ++k) {
       if constexpr (ToPlanes) {
         const u8* pixels = pixels_ + x * 4 * elementBytes_;
+        if (Fetches && k % 2 == 0) __builtin_prefetch(core::at(pixels, kAhead + k * kBytes));
         r.chunk[k] = shuffle(
             Adjacent ? Vec<u8>::load(pixels + k * kBytes) : loadChunks(pixels + k * kChunk, apart * 4 * elementBytes_),
             index_);
@@ -362,6 +364,8 @@ public:
   }
 
 private:
+  static constexpr int kAhead = 512;  // bytes
+
   Vec<u8> index_;
   const ChannelCall& call_;
   s64 elementBytes_;

@@ -216,6 +216,12 @@ void move(const ChannelCall& call) {
   moveRows<Rows>(call, elementsOfChunk(call));
 }
 
+void splitFour(const ChannelCall& call) {
+  constexpr s64 kSecondCache = 0x100000;
+  const bool far = kBytes == 32 && 8 * call.width * call.height * call.elementBytes > kSecondCache;
+  far ? move<FourPlanes<true, true>>(call) : move<FourPlanes<true>>(call);
+}
+
 // Rows of chunks of whole pixels of four channels.
 template <bool HasSource, bool Keeps>
 void moveFours(const ChannelCall& call) {
@@ -228,7 +234,7 @@ namespace RNX_WIDTH {
 
 constinit const ChannelKernels channelKernels = {
     .split3 = move<Mover<3, 3, Order::kToPlanes, false>>,
-    .split4 = move<FourPlanes<true>>,
+    .split4 = splitFour,
     .join3 = move<Mover<3, 3, Order::kFromPlanes, false>>,
     .join4 = move<FourPlanes<false>>,
     .extract3 = move<Mover<3, 1, Order::kPixels, false>>,
