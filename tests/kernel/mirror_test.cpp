@@ -179,7 +179,9 @@ TEST(Mirror, UpsideDownIsTheSameAroundTheCaches) {
 TEST(Transpose, LargeImages) {
   Random random("Transpose");
   constexpr s64 kSize = 1410;
-  const auto check = [&](s64 pixel, auto transpose, auto inPlace) {
+  const auto check = [&]<class T>(s64 pixel, RnxStatus (*transpose)(const T*, int, T*, int, RnxiSize),
+                                  RnxStatus (*inPlace)(T*, int, RnxiSize)) {
+    const auto data = [](Image& image) { return reinterpret_cast<T*>(image.data()); };
     const s64 step = kSize * pixel + 16;
     Image src, dst;
     placeRandomly(src, random, kSize * pixel, kSize, step);
@@ -188,23 +190,17 @@ TEST(Transpose, LargeImages) {
       for (s64 x = 0; x < kSize; ++x) std::memcpy(dst.shadowRow(x) + y * pixel, src.row(y) + x * pixel, pixel);
     }
     constexpr RnxiSize kRoi = {kSize, kSize};
-    ASSERT_EQ(transpose(src.data(), static_cast<int>(step), dst.data(), static_cast<int>(step), kRoi),
-              rnxStatusNoError);
+    ASSERT_EQ(transpose(data(src), static_cast<int>(step), data(dst), static_cast<int>(step), kRoi), rnxStatusNoError);
     ASSERT_TRUE(dst.matches()) << pixel;
     for (s64 y = 0; y < kSize; ++y) std::memcpy(src.shadowRow(y), dst.row(y), static_cast<size_t>(kSize * pixel));
-    ASSERT_EQ(inPlace(src.data(), static_cast<int>(step), kRoi), rnxStatusNoError);
+    ASSERT_EQ(inPlace(data(src), static_cast<int>(step), kRoi), rnxStatusNoError);
     ASSERT_TRUE(src.matches()) << pixel;
   };
   for (const int vector : vectorWidths()) {
     const ScopedWidth bytes(vector);
     check(3, rnxiTranspose_8u_C3R, rnxiTranspose_8u_C3IR);
-    const auto as16u = [](u8* p) { return reinterpret_cast<u16*>(p); };
-    check(
-        8,
-        [&](u8* s, int ss, u8* d, int ds, RnxiSize roi) {
-          return rnxiTranspose_16u_C4R(as16u(s), ss, as16u(d), ds, roi);
-        },
-        [&](u8* p, int step, RnxiSize roi) { return rnxiTranspose_16u_C4IR(as16u(p), step, roi); });
+    check(8, rnxiTranspose_16u_C4R, rnxiTranspose_16u_C4IR);
+    check(12, rnxiTranspose_32f_C3R, rnxiTranspose_32f_C3IR);
   }
 }
 
